@@ -1,0 +1,99 @@
+// Lines and segments.
+
+#include "table.h"
+
+namespace {
+
+using bench::Random;
+using bench::row;
+
+struct TwoLines {
+    DTPOINT a1, a2, b1, b2;
+};
+struct Directions {
+    double rec[6];
+    double angles[2];
+};
+struct PointAndLine {
+    DTPOINT a1, a2, p;
+    double d;
+};
+struct Collinear {
+    DTLINE elem, cut;
+};
+
+TwoLines twoLines(Random &random) {
+    return {random.point(), random.point(), random.point(), random.point()};
+}
+Directions directions(Random &random) {
+    const DTPOINT p = random.point(), q = random.point();
+    return {{p.x, p.y, q.x, q.y, 0.0, 0.0}, {random.angleDeg(), random.angleDeg()}};
+}
+PointAndLine pointAndLine(Random &random) {
+    return {random.point(), random.point(), random.point(), random.length()};
+}
+/// Half of the points lie on the segment.
+PointAndLine onSegment(Random &random) {
+    PointAndLine in = pointAndLine(random);
+    if (random.uniform(0.0, 1.0) < 0.5) {
+        const double t = random.uniform(0.0, 1.0);
+        in.p = {in.a1.x + (in.a2.x - in.a1.x) * t, in.a1.y + (in.a2.y - in.a1.y) * t};
+    }
+    return in;
+}
+Collinear collinear(Random &random) {
+    const DTPOINT p = random.point(), q = random.point();
+    const double s = random.uniform(-0.5, 1.5), t = random.uniform(-0.5, 1.5);
+    const DTLINE elem = {0, p.x + (q.x - p.x) * s, p.y + (q.y - p.y) * s, p.x + (q.x - p.x) * t,
+                         p.y + (q.y - p.y) * t};
+    return {elem, {0, p.x, p.y, q.x, q.y}};
+}
+
+template <class Call> int crossingRow(const char *name, Call call) {
+    return row(name, twoLines, [call](const TwoLines &in) {
+        DTPOINT out;
+        return call(&in.a1, &in.a2, &in.b1, &in.b2, &out) + out.x;
+    });
+}
+
+const int kLines[] = {
+    crossingRow("a2dCrs2L", a2dCrs2L),
+    crossingRow("a2d_ins2l", a2d_ins2l),
+    crossingRow("ca_ins2l", ca_ins2l),
+    row("aatCalCrs2l", directions,
+        [](Directions in) { return aatCalCrs2l(in.rec, in.angles) + in.rec[4]; }),
+    row("ca_perln", pointAndLine,
+        [](const PointAndLine &in) {
+            DTPOINT foot;
+            double dist;
+            return ca_perln(&in.a1, &in.a2, &in.p, &foot, &dist) + dist + foot.x;
+        }),
+    row("ca_palds", pointAndLine,
+        [](const PointAndLine &in) {
+            DTPOINT p, q;
+            return ca_palds(&in.a1, &in.a2, in.d, 1, &p, &q) + p.x + q.y;
+        }),
+    row("ca_posln", pointAndLine,
+        [](const PointAndLine &in) {
+            uint16_t side;
+            return ca_posln(&in.a1, &in.a2, &in.p, &side) + side;
+        }),
+    row("a2d_onlin", onSegment,
+        [](const PointAndLine &in) { return a2d_onlin(&in.a1, &in.a2, &in.p); }),
+    row("ca_onlin", onSegment,
+        [](const PointAndLine &in) { return ca_onlin(&in.a1, &in.a2, &in.p); }),
+    row("ca_DistAlongbyLineFromSpnt", pointAndLine,
+        [](const PointAndLine &in) {
+            DTPOINT out;
+            return ca_DistAlongbyLineFromSpnt(&in.a1, &in.a2, in.d, &out) + out.x;
+        }),
+    row("a2d_InsDl", collinear,
+        [](const Collinear &in) {
+            DTPOINT out{};
+            return a2d_InsDl(&in.elem, &in.cut, &out) + out.x;
+        }),
+    row("a2d_Chk3pnt", onSegment,
+        [](const PointAndLine &in) { return a2d_Chk3pnt(&in.a1, &in.a2, &in.p); }),
+};
+
+} // namespace

@@ -1,0 +1,24 @@
+# The installed tree: header, libraries, CMake package, pkg-config file.
+
+include(CMakePackageConfigHelpers)
+
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/planegeo)
+
+install(FILES include/planegeo.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(TARGETS planegeo planegeo_static EXPORT planegeo_targets
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(EXPORT planegeo_targets FILE planegeo-targets.cmake NAMESPACE planegeo::
+        DESTINATION ${package_dir})
+
+configure_package_config_file(cmake/planegeo-config.cmake.in planegeo-config.cmake
+                              INSTALL_DESTINATION ${package_dir})
+write_basic_package_version_file(planegeo-config-version.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/planegeo-config.cmake
+              ${CMAKE_CURRENT_BINARY_DIR}/planegeo-config-version.cmake
+        DESTINATION ${package_dir})
+
+configure_file(cmake/planegeo.pc.in planegeo.pc @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/planegeo.pc
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

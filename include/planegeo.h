@@ -1,0 +1,548 @@
+/**
+ * @file planegeo.h
+ * Two-dimensional geometry for CAD hosts: plain C functions over doubles and
+ * small records.
+ *
+ * What holds everywhere, unless a function says otherwise:
+ *
+ *  - A point argument is a pointer to two consecutive doubles, x then y
+ *    (DTPOINT). Lengths are in the host's drawing units.
+ *  - Angles are degrees, anticlockwise from the positive x axis; an arc runs
+ *    anticlockwise from its start to its end. Start and end of an elliptic arc
+ *    are parametric angles, measured from the ellipse's first axis.
+ *  - Axis lengths of ellipses are full lengths (diameters).
+ *  - A line given by two points is infinite; a segment is the stretch between
+ *    them.
+ *  - "errdist" is the process-wide distance tolerance of ca_geterrdist().
+ *    Tolerances given as numbers do not follow it.
+ *  - Pointers are not checked for null and numbers not for NaN or infinity; no
+ *    number makes a call crash, hang or write beyond its outputs.
+ *  - An output that is not produced keeps the caller's value ("untouched").
+ *  - Outputs may share storage with inputs.
+ *  - Results are of several kinds, told per function: always 0; found (1) or
+ *    not (0); done (0) or degenerate (1); a small code; -1 with all bits set.
+ *    Counts of points are 16-bit unsigned, a side is 65535 where others say -1.
+ *  - All functions may be called from any thread as long as no thread changes
+ *    the settings meanwhile; the exceptions say so.
+ */
+#ifndef PLANEGEO_H
+#define PLANEGEO_H
+
+#include <stdint.h>
+
+#define PLANEGEO_VERSION_MAJOR 1
+#define PLANEGEO_VERSION_MINOR 0
+#define PLANEGEO_VERSION_PATCH 0
+/** The version as one number, 10000 * major + 100 * minor + patch. */
+#define PLANEGEO_VERSION                                                                           \
+    (10000 * PLANEGEO_VERSION_MAJOR + 100 * PLANEGEO_VERSION_MINOR + PLANEGEO_VERSION_PATCH)
+
+/* Define PLANEGEO_STATIC in a host that links the static library. */
+#if defined(_WIN32)
+#if defined(PLANEGEO_BUILD) || defined(PLANEGEO_STATIC)
+#define PLANEGEO_API
+#else
+#define PLANEGEO_API __declspec(dllimport)
+#endif
+#define PLANEGEO_CALL __cdecl
+#else
+#define PLANEGEO_API __attribute__((visibility("default")))
+#define PLANEGEO_CALL
+#endif
+
+/* Some 32-bit platforms align doubles to four bytes; the records do not. */
+#if defined(_MSC_VER)
+#define PLANEGEO_ALIGN8 __declspec(align(8))
+#else
+#define PLANEGEO_ALIGN8 __attribute__((aligned(8)))
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/** @defgroup records Records
+ *  The layout is the same on every platform.
+ *  @{ */
+
+/** A point or vector. */
+typedef struct DTPOINT {
+    double x;
+    double y;
+} DTPOINT;
+
+/** A complex number. */
+typedef struct DTCOMPLEX {
+    double re;
+    double im;
+} DTCOMPLEX;
+
+/** Bit of an attribute word: the element is reversed, its start and end swap roles. */
+#define PLANEGEO_ATTR_REVERSED UINT32_C(0x20000000)
+/** Bit of an attribute word: when exactly one of this and PLANEGEO_ATTR_REVERSED
+ *  is set, an arc's range is taken from its end to its start. */
+#define PLANEGEO_ATTR_CLOCKWISE UINT32_C(0x10000000)
+
+/** A line segment. */
+typedef struct DTLINE {
+    uint32_t attr; /**< the host's attribute word */
+    PLANEGEO_ALIGN8 double x1;
+    double y1;
+    double x2;
+    double y2;
+} DTLINE;
+
+/** A circle or circular arc; an end 360 above the start is a full circle. */
+typedef struct DTARC {
+    uint32_t attr;             /**< the host's attribute word */
+    PLANEGEO_ALIGN8 double cx; /**< centre */
+    double cy;
+    double r;     /**< radius */
+    double start; /**< degrees */
+    double end;   /**< degrees */
+} DTARC;
+
+/**
+ * An ellipse or elliptic arc. The point at the parametric angle t is the centre
+ * plus (a/2 cos t, b/2 sin t) turned by rot. The first axis need not be the
+ * longer one, except where a function asks for it.
+ */
+typedef struct DTELLIPSE {
+    uint32_t attr;             /**< the host's attribute word */
+    PLANEGEO_ALIGN8 double cx; /**< centre */
+    double cy;
+    double a;     /**< full length of the first axis */
+    double b;     /**< full length of the second axis */
+    double start; /**< parametric angle, degrees */
+    double end;   /**< parametric angle, degrees */
+    double rot;   /**< rotation of the first axis, degrees anticlockwise from x */
+} DTELLIPSE;
+
+/** @} */
+
+/** @defgroup settings Settings
+ *  Process-wide variables without locks: a change made by one thread is seen by
+ *  the calls of all.
+ *  @{ */
+
+/** Returns the distance tolerance errdist in drawing units; 1e-6 at load. */
+PLANEGEO_API double PLANEGEO_CALL ca_geterrdist(void);
+
+/**
+ * Sets the distance tolerance errdist.
+ *
+ * The value is stored as it is: with zero or a negative value no distance counts
+ * as small any more, so that no point lies on a line, no two lines are parallel,
+ * and the guards against zero lengths are off (non-finite outputs follow).
+ *
+ * @param[in] tolerance drawing units
+ */
+PLANEGEO_API void PLANEGEO_CALL ca_seterrdist(double tolerance);
+
+/** Returns the flag of ca_SetStartendFlg(); 0 at load. */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_GetStartendFlg(void);
+
+/**
+ * Chooses which end of an element a2d_InsDl(), a2d_InsDc() and a2d_InsDe() keep.
+ *
+ * @param[in] flag 1 the start; every other value the end
+ */
+PLANEGEO_API void PLANEGEO_CALL ca_SetStartendFlg(int32_t flag);
+
+/**
+ * Returns the parameter table of the Simpson integrands: ten doubles, zero at
+ * load, the same address at every call. The library reads it and never writes it.
+ *
+ * The host stores half the first axis in slot 0 and half the second in slot 1
+ * before it measures an ellipse; slots 2 to 9 are free for integrands of its own.
+ * The table is shared by all threads: do not measure two ellipses at once.
+ */
+PLANEGEO_API double *PLANEGEO_CALL ca_Simpson_getParmtbl(void);
+
+/** @} */
+
+/** @defgroup angles Degree trigonometry and angle ranges
+ *  Degrees become radians by 0.017453292519943295, radians degrees by
+ *  57.29577951308232.
+ *
+ *  An angle is reduced by whole turns as if 360 were subtracted (added) while it
+ *  exceeds 359.99999999 (lies below -359.99999999), and one turn added if it is
+ *  then negative. Up to 2^56 degrees every such subtraction is exact, so that the
+ *  result is the double which they would reach, without the time; above, it is
+ *  the exact remainder, where single subtractions would round. An infinite angle
+ *  becomes NaN; NaN stays.
+ *  @{ */
+
+/** Returns the sine of an angle in degrees. */
+PLANEGEO_API double PLANEGEO_CALL sind(double deg);
+/** Returns the cosine of an angle in degrees. */
+PLANEGEO_API double PLANEGEO_CALL cosd(double deg);
+/** Returns the tangent of an angle in degrees; near 90 and 270 a huge value, not an infinity. */
+PLANEGEO_API double PLANEGEO_CALL tand(double deg);
+/** Returns the arc sine in degrees, [-90, 90]; @p v is first clamped to [-1, 1]. */
+PLANEGEO_API double PLANEGEO_CALL asind(double v);
+/** Returns the arc cosine in degrees, [0, 180]; @p v is first clamped to [-1, 1]. */
+PLANEGEO_API double PLANEGEO_CALL acosd(double v);
+/** Returns the arc tangent in degrees, [-90, 90]. */
+PLANEGEO_API double PLANEGEO_CALL atand(double v);
+
+/**
+ * Returns the direction of the vector (x, y) in degrees, [0, 360]; 0 when both
+ * are zero. A direction so little below the x axis that it rounds up gives
+ * exactly 360; a negative zero passes through.
+ */
+PLANEGEO_API double PLANEGEO_CALL atan2d(double y, double x);
+
+/**
+ * Normalises the range of an arc in place.
+ *
+ * Both angles are reduced by whole turns; an end that is not above its start is
+ * then raised by a turn; a range that ends above 360 is lowered by a turn.
+ * Afterwards the end lies in (0, 360], the start in (-360, 360), the span in
+ * (0, 360]. A negative start marks an arc that crosses 0: (350, 10) becomes
+ * (-10, 10), and (10, 10) becomes (-350, 10).
+ *
+ * @param[in,out] start,end degrees; both are written always
+ * @return 1 when the reduced angles were equal within 1e-8 (a full circle), else 0
+ * @see a2d_ChkDegr
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_StdSedeg(double *start, double *end);
+
+/**
+ * Tells whether an angle lies on the arc that runs anticlockwise from start to end.
+ *
+ * Both ends belong to the arc, with 1e-8 degrees of slack; equal ends (within
+ * 1e-8, after reduction) mean the full circle. An arc that starts within 1e-8
+ * below 360 and ends at 0 accepts every angle.
+ *
+ * @param[in] start,end,angle degrees, any finite value
+ * @return 0 on the arc, 1 off it; 0 for an angle that is NaN
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_ChkDegr(double start, double end, double angle);
+
+/**
+ * Orders the two ends of an arc by two direction values.
+ *
+ * @param[in]  dir1,dir2 any integers; only their equality counts
+ * @param[in]  a,b       the ends in the order of travel
+ * @param[out] out_start,out_end a and b when dir1 equals dir2, else b and a
+ */
+PLANEGEO_API void PLANEGEO_CALL a2d_GetBedeg(int32_t dir1, int32_t dir2, double a, double b,
+                                             double *out_start, double *out_end);
+
+/** @} */
+
+/** @defgroup points Points and vectors
+ *  None of these reads errdist.
+ *  @{ */
+
+/**
+ * Turns a point about a centre.
+ *
+ * @param[in]  center,point the pivot and the point
+ * @param[out] out   separate storage from @p point: its x is stored before its y
+ *                   is computed from the point, so a call in place gives a wrong y
+ * @param[in]  angle degrees, anticlockwise
+ * @return always 0
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL c_pnt(const DTPOINT *center, const DTPOINT *point, DTPOINT *out,
+                                         double angle);
+/** The same function as c_pnt(). */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_rvpnt(const DTPOINT *center, const DTPOINT *point,
+                                            DTPOINT *out, double angle);
+
+/**
+ * Carries a point into a local frame: subtracts the origin, then turns by +angle.
+ *
+ * @param[in]  point,origin drawing units
+ * @param[in]  angle degrees; pass the negative rotation of the frame
+ * @param[out] out   R(angle) (point - origin)
+ * @return always 0
+ * @see pnt_formd, its inverse when given the opposite angle
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL pnt_std(const DTPOINT *point, const DTPOINT *origin,
+                                           double angle, DTPOINT *out);
+
+/**
+ * Carries a point out of a local frame: turns by +angle, then adds the origin.
+ *
+ * @param[in]  point,origin drawing units
+ * @param[in]  angle degrees, the rotation of the frame
+ * @param[out] out   R(angle) point + origin
+ * @return always 0
+ * @see pnt_std, its inverse when given the opposite angle
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL pnt_formd(const DTPOINT *point, const DTPOINT *origin,
+                                             double angle, DTPOINT *out);
+
+/**
+ * Mirrors a point in the line through two points.
+ *
+ * @param[in]  point            the point
+ * @param[in]  line_p1,line_p2  two points of the line; equal points are not
+ *                              checked for and give non-finite outputs
+ * @param[out] out              the mirror image
+ * @return always 0
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL pnt_mer(const DTPOINT *point, const DTPOINT *line_p1,
+                                           const DTPOINT *line_p2, DTPOINT *out);
+/** As pnt_mer(), with the line before the point. */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_vmpnt(const DTPOINT *line_p1, const DTPOINT *line_p2,
+                                            const DTPOINT *point, DTPOINT *out);
+
+/**
+ * Returns the direction from one point to another in radians, [0, 2 pi].
+ *
+ * A component shorter than 1e-7 counts as zero: directions so close to an axis
+ * snap onto 0, pi/2, pi or 3 pi/2, and points so close to each other give 0.
+ */
+PLANEGEO_API double PLANEGEO_CALL ca_vcrad(const DTPOINT *from, const DTPOINT *to);
+
+/** Returns the distance of two points, the plain root of the sum of squares. */
+PLANEGEO_API double PLANEGEO_CALL ca_dstpt(const DTPOINT *p, const DTPOINT *q);
+
+/** @} */
+
+/** @defgroup lines Lines
+ *  @{ */
+
+/**
+ * Intersects two infinite lines.
+ *
+ * The lines are parallel when the cross product of their directions, as given and
+ * not scaled by their lengths, is below 1e-6: short segments count as parallel
+ * sooner than long ones.
+ *
+ * @param[in]  a1,a2,b1,b2 two points of each line
+ * @param[out] out         the intersection; untouched when parallel
+ * @return 1 found, 0 parallel
+ * @see a2d_ins2l for segments and errdist
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2dCrs2L(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *b1,
+                                            const DTPOINT *b2, DTPOINT *out);
+
+/**
+ * Intersects two lines and tells whether the point lies on both segments.
+ *
+ * With d the cross product of the directions, the lines are parallel when d
+ * divided by the length of the first and d divided by the length of the second
+ * are both below errdist. A segment of length zero is not parallel to anything
+ * and gives non-finite outputs. Ends belong to the segments within errdist.
+ *
+ * @param[in]  a1,a2,b1,b2 the ends of each segment
+ * @param[out] out         the intersection of the infinite lines; (0, 0) when parallel
+ * @return 0 the point lies on both segments, 1 outside at least one, 2 parallel
+ * @see a2d_onlin for the test on each segment
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_ins2l(const DTPOINT *a1, const DTPOINT *a2,
+                                             const DTPOINT *b1, const DTPOINT *b2, DTPOINT *out);
+/** The same function as a2d_ins2l(). */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_ins2l(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *b1,
+                                            const DTPOINT *b2, DTPOINT *out);
+
+/**
+ * Intersects two lines given by a point and a direction angle each.
+ *
+ * Only equal directions (within 1e-8) are told apart; opposite ones, or 0 against
+ * 360, have equal tangents and give non-finite or huge values. A direction within
+ * 1e-8 of 90 or 270 counts as vertical.
+ *
+ * @param[in,out] rec    six doubles: x1, y1, x2, y2, then the result x, y; the
+ *                       result is untouched unless found
+ * @param[in,out] angles two doubles, degrees; each is brought into [0, 360] in
+ *                       place, found or not (360 stays 360; beyond 2^56 degrees
+ *                       by the exact remainder; an infinity becomes NaN)
+ * @return 0 found, 2070 the same direction
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL aatCalCrs2l(double *rec, double *angles);
+
+/**
+ * Drops the perpendicular from a point onto a line.
+ *
+ * The foot counts as outside the segment when the product of its vectors to the
+ * two ends exceeds 1e-6, a product of distances and not errdist.
+ *
+ * @param[in]  a1,a2 the segment
+ * @param[in]  p     the point
+ * @param[out] foot  foot of the perpendicular on the infinite line; untouched
+ *                   when the result is -1
+ * @param[out] dist  distance of @p p from the line; 0 when the result is -1
+ * @return 0 the foot lies on the segment, 1 outside it, -1 the segment is shorter
+ *         than errdist
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_perln(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *p,
+                                            DTPOINT *foot, double *dist);
+
+/**
+ * Moves a segment to its parallel at a distance.
+ *
+ * @param[in]  a1,a2 the segment
+ * @param[in]  d     distance, drawing units
+ * @param[in]  side  1 to the right of the direction from a1 to a2, -1 to the left;
+ *                   another value scales the distance
+ * @param[out] out1,out2 a1 and a2 moved
+ * @return 0 done; 1 when the ends coincide within errdist in x and in y, the
+ *         outputs are then untouched
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_palds(const DTPOINT *a1, const DTPOINT *a2, double d,
+                                            int16_t side, DTPOINT *out1, DTPOINT *out2);
+
+/**
+ * Tells on which side of a line a point lies.
+ *
+ * The point counts as on the line when the cross product of the direction and its
+ * vector from a1, not divided by the length, is below errdist.
+ *
+ * @param[in]  a1,a2 the line
+ * @param[in]  p     the point
+ * @param[out] side  0 on the line, 1 right of the direction from a1 to a2,
+ *                   65535 left of it
+ * @return 0 done; 1 when a1 and a2 coincide within errdist in x and in y, @p side
+ *         is then untouched
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_posln(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *p,
+                                            uint16_t *side);
+
+/**
+ * Tells whether a point lies on a segment, within errdist.
+ *
+ * The ends are asked first, so a point at the end of a segment of length zero is
+ * on it.
+ *
+ * @param[in] p1,p2 the segment
+ * @param[in] q     the point
+ * @return 0 on the segment, ends included; 1 off it; -1 the segment is shorter
+ *         than errdist
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_onlin(const DTPOINT *p1, const DTPOINT *p2,
+                                             const DTPOINT *q);
+/** The same function as a2d_onlin(). */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_onlin(const DTPOINT *p1, const DTPOINT *p2, const DTPOINT *q);
+
+/**
+ * Finds the point at a distance along a segment.
+ *
+ * @param[in]  start,end the segment
+ * @param[in]  dist      distance from start; at or beyond the length it gives end
+ * @param[out] out       the point; untouched when the result is 0
+ * @return 1 done; 0 when start or end is null, or dist is negative
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_DistAlongbyLineFromSpnt(const DTPOINT *start,
+                                                              const DTPOINT *end, double dist,
+                                                              DTPOINT *out);
+
+/**
+ * Selects the end of a line to keep where it is cut by a collinear line.
+ *
+ * The end is the first point of @p elem when the flag of ca_SetStartendFlg() is 1,
+ * else its second point. The attribute words are not read.
+ *
+ * @param[in]  elem the line whose end is wanted
+ * @param[in]  cut  the cutting line; of length zero it counts as not collinear
+ * @param[out] out  the end; untouched unless the result is 1
+ * @return 1 chosen; 0 that end is not on @p cut (see a2d_onlin()); -1 an end of
+ *         @p elem is not nearer than errdist to the infinite line of @p cut
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_InsDl(const DTLINE *elem, const DTLINE *cut, DTPOINT *out);
+
+/**
+ * Tells where the projection of a point onto a line falls against a segment.
+ *
+ * The tolerance at the ends is errdist, or half the distance of p3 from p1 where
+ * that is below errdist.
+ *
+ * @param[in] p1,p2 the segment; equal points give 3
+ * @param[in] p3    the point
+ * @return 3 on the segment or within the tolerance of an end; 1 beyond p2;
+ *         2 before p1; 0 only for non-finite input
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_Chk3pnt(const DTPOINT *p1, const DTPOINT *p2,
+                                               const DTPOINT *p3);
+
+/** @} */
+
+/** @defgroup lineCircle Lines with circles and arcs
+ *  @{ */
+
+/** @} */
+
+/** @defgroup circleCircle Circles with circles
+ *  @{ */
+
+/** @} */
+
+/** @defgroup arcs Arcs: construction and queries
+ *  @{ */
+
+/** @} */
+
+/** @defgroup circleTangents Circle tangents
+ *  @{ */
+
+/** @} */
+
+/** @defgroup solvers Polynomial solvers
+ *  @{ */
+
+/** @} */
+
+/** @defgroup ellipses Ellipses: record and parameter conversion
+ *  @{ */
+
+/** @} */
+
+/** @defgroup ellipseQueries Ellipses: queries and transforms
+ *  @{ */
+
+/** @} */
+
+/** @defgroup ellipseMeasure Ellipses: length and area
+ *  @{ */
+
+/** @} */
+
+/** @defgroup ellipseArcs Ellipses: chains of circular arcs
+ *  @{ */
+
+/** @} */
+
+/** @defgroup ellipseDivision Ellipses: division into points
+ *  @{ */
+
+/** @} */
+
+/** @defgroup ellipseExtents Ellipses: extents and points of given tangent
+ *  @{ */
+
+/** @} */
+
+/** @defgroup lineEllipse Lines with ellipses
+ *  @{ */
+
+/** @} */
+
+/** @defgroup conics Ellipses with circles and ellipses
+ *  @{ */
+
+/** @} */
+
+/** @defgroup ellipseFeet Ellipses: perpendiculars
+ *  @{ */
+
+/** @} */
+
+/** @defgroup ellipseTangents Ellipses: tangents
+ *  @{ */
+
+/** @} */
+
+/** @defgroup ellipseDistance Ellipses: distance
+ *  @{ */
+
+/** @} */
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* PLANEGEO_H */

@@ -1,0 +1,107 @@
+/// Directions of vectors and ranges of angles.
+#pragma once
+
+#include <cmath>
+
+#include "base/tolerance.h"
+#include "base/vec2.h"
+
+namespace planegeo {
+
+/// Direction of a vector in degrees, [0, 360]; 0 for the zero vector.
+///
+/// The rounded sum decides: -1e-300 degrees gives exactly 360, and later tests for exactly
+/// 360 rely on it.
+inline double directionDeg(Vec2 v) {
+    if (v.x == 0.0 && v.y == 0.0) return 0.0;
+    const double deg = std::atan2(v.y, v.x) * kDegPerRad;
+    return deg < 0.0 ? deg + 360.0 : deg;
+}
+
+/// Direction of a vector in radians, [0, 2 pi]; a component below kAxisSnapLength counts as zero.
+double snappedDirectionRad(Vec2 v);
+
+/// What is left of an angle after whole turns are taken off towards zero: the double that
+/// repeated subtractions of 360 reach. Up to 2^56 each of them is exact (360 is a multiple
+/// of the angle's last place), so the exact remainder equals their result; a zero comes out
+/// positive, as from a subtraction. NaN for infinities.
+inline double remainderOfTurns(double deg) { return std::fmod(deg, 360.0) + 0.0; }
+
+/// Reduction to [0, 360]: an angle in (kReducedMaxDeg, 360) goes down a turn and comes back
+/// up by it, so that it keeps its value; a negative one that rounds up gives 360.
+inline double reducedDeg(double deg) {
+    if (deg > kReducedMaxDeg) {
+        deg = deg < 720.0 ? deg - 360.0 : remainderOfTurns(deg);
+        if (deg > kReducedMaxDeg) deg -= 360.0;
+    } else if (deg < -kReducedMaxDeg) {
+        deg = deg > -720.0 ? deg + 360.0 : remainderOfTurns(deg);
+        if (deg < -kReducedMaxDeg) deg += 360.0;
+    }
+    return deg < 0.0 ? deg + 360.0 : deg;
+}
+
+/// The other reduction, to [0, 360]: 360 is subtracted while the angle exceeds 360 and added
+/// while it is negative, so 360 stays 360.
+inline double reducedKeeping360(double deg) {
+    if (deg > 360.0) {
+        const double rest = remainderOfTurns(deg);
+        return rest == 0.0 ? 360.0 : rest;
+    }
+    if (deg < 0.0) {
+        const double rest = remainderOfTurns(deg);
+        return rest < 0.0 ? rest + 360.0 : rest;
+    }
+    return deg;
+}
+
+/// The range of an arc, anticlockwise, degrees. Once normalised: end in (0, 360], end - start
+/// in (0, 360], and a negative start marks a range that crosses 0.
+struct AngleRange {
+    double start;
+    double end;
+
+    struct Normalised;
+    /// Both ends may be any finite angles; equal ones mean the full circle.
+    static Normalised normalised(double start, double end);
+
+    /// Whether a normalised range holds an angle, both ends with kAngleSlackDeg.
+    bool contains(double angle) const {
+        // At the wrap edge (a start just below 360, an end at 0) hardly anything is left of
+        // the range; on purpose it then accepts every angle.
+        if (std::fabs(end - start) < kAngleSlackDeg) return true;
+        const double last = end + kAngleSlackDeg;
+        const double first = start - kAngleSlackDeg;
+        angle = reducedDeg(angle);
+        if (angle > last) angle -= 360.0;
+        if (first > angle) angle += 360.0;
+        return !(angle > last); // a NaN passes
+    }
+};
+
+struct AngleRange::Normalised {
+    AngleRange range;
+    bool fullCircle; ///< the two ends were equal within kAngleSlackDeg
+};
+
+inline AngleRange::Normalised AngleRange::normalised(double start, double end) {
+    start = reducedDeg(start);
+    end = reducedDeg(end);
+    const bool equal = std::fabs(end - start) < kAngleSlackDeg;
+    if (equal) {
+        end = start + 360.0;
+    } else if (start > end) {
+        end += 360.0;
+    }
+    if (end > 360.0) {
+        start -= 360.0;
+        end -= 360.0;
+    }
+    return {{start, end}, equal};
+}
+
+/// Whether an arc given by any two angles holds a third.
+inline bool isOnArc(double start, double end, double angle) {
+    return AngleRange::normalised(start, end).range.contains(angle);
+}
+
+} // namespace planegeo

@@ -1,0 +1,40 @@
+/// One constant per question, not per value: equal values with different meanings stay apart.
+/// The name tells quantity and unit, the comment who asks and with which comparison.
+#pragma once
+
+namespace planegeo {
+
+// Angles and points.
+
+/// Two angles of a range are equal (<); the ends of an arc still belong to it.
+inline constexpr double kAngleSlackDeg = 1e-8;
+/// A reduced angle above it, or below its negative, is brought back by a turn.
+inline constexpr double kReducedMaxDeg = 359.99999999;
+/// A component this short counts as zero in a direction (<): ca_vcrad.
+inline constexpr double kAxisSnapLength = 1e-7;
+
+// Lines.
+
+/// Cross product of two raw directions of parallel lines (<): a2dCrs2L.
+inline constexpr double kParallelCross = 1e-6;
+/// Two direction angles of lines are equal (<), or one is vertical (<): aatCalCrs2l.
+inline constexpr double kDirectionSlackDeg = 1e-8;
+/// Product of the vectors from the foot to both ends of the segment that still holds it
+/// (outside when >): ca_perln.
+inline constexpr double kFootBeyondEndProduct = 1e-6;
+
+// Circles and arcs.
+
+// Polynomial solvers.
+
+// Ellipses: record, queries, transforms.
+
+// Ellipses: length, area, division.
+
+// Ellipses: chains of arcs, extents.
+
+// Ellipses: intersections.
+
+// Ellipses: perpendiculars, tangents, distances.
+
+} // namespace planegeo

@@ -1,0 +1,94 @@
+// What every test shares: untouched outputs, settings that come back, portable random numbers.
+#pragma once
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <ostream>
+#include <random>
+
+#include <gtest/gtest.h>
+
+#include "planegeo.h"
+
+inline bool operator==(const DTPOINT &p, const DTPOINT &q) { return p.x == q.x && p.y == q.y; }
+inline std::ostream &operator<<(std::ostream &out, const DTPOINT &p) {
+    return out << "(" << p.x << ", " << p.y << ")";
+}
+
+namespace support {
+
+inline constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+inline constexpr double kInfinity = std::numeric_limits<double>::infinity();
+inline constexpr double kEpsilon = std::numeric_limits<double>::epsilon();
+inline constexpr double kRadPerDeg = 0.017453292519943295;
+
+/// What outputs hold before a call; no call computes it.
+inline constexpr double kUntouched = -7.25e77;
+inline constexpr DTPOINT kUntouchedPoint = {kUntouched, kUntouched};
+inline constexpr std::uint16_t kUntouchedCount = 4711;
+
+inline double distance(DTPOINT p, DTPOINT q) { return std::hypot(p.x - q.x, p.y - q.y); }
+inline DTPOINT polar(DTPOINT center, double r, double deg) {
+    return {center.x + r * std::cos(deg * kRadPerDeg), center.y + r * std::sin(deg * kRadPerDeg)};
+}
+
+/// Both coordinates within a distance.
+inline testing::AssertionResult near(DTPOINT got, DTPOINT want, double within) {
+    if (std::fabs(got.x - want.x) <= within && std::fabs(got.y - want.y) <= within) {
+        return testing::AssertionSuccess();
+    }
+    return testing::AssertionFailure()
+           << "got (" << got.x << ", " << got.y << "), want (" << want.x << ", " << want.y << ")";
+}
+
+/// Sets errdist for a scope.
+class ToleranceGuard {
+  public:
+    explicit ToleranceGuard(double tolerance) : before_(ca_geterrdist()) {
+        ca_seterrdist(tolerance);
+    }
+    ~ToleranceGuard() { ca_seterrdist(before_); }
+    ToleranceGuard(const ToleranceGuard &) = delete;
+    ToleranceGuard &operator=(const ToleranceGuard &) = delete;
+
+  private:
+    double before_;
+};
+
+/// Sets StartendFlg for a scope.
+class StartendGuard {
+  public:
+    explicit StartendGuard(std::int32_t flag) : before_(ca_GetStartendFlg()) {
+        ca_SetStartendFlg(flag);
+    }
+    ~StartendGuard() { ca_SetStartendFlg(before_); }
+    StartendGuard(const StartendGuard &) = delete;
+    StartendGuard &operator=(const StartendGuard &) = delete;
+
+  private:
+    std::int32_t before_;
+};
+
+/// The same numbers on every platform, which the standard distributions do not promise.
+class Random {
+  public:
+    explicit Random(std::uint64_t seed) : engine_(seed) {}
+
+    double uniform(double low, double high) {
+        const double unit = static_cast<double>(engine_() >> 11) * 0x1p-53;
+        return low + (high - low) * unit;
+    }
+    /// Every power of ten between two positive bounds is as likely as another.
+    double logUniform(double low, double high) {
+        return std::exp(uniform(std::log(low), std::log(high)));
+    }
+    double angleDeg() { return uniform(0.0, 360.0); }
+    DTPOINT point(double size) { return {uniform(-size, size), uniform(-size, size)}; }
+    std::uint64_t bits() { return engine_(); }
+
+  private:
+    std::mt19937_64 engine_;
+};
+
+} // namespace support
