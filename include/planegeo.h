@@ -482,7 +482,73 @@ PLANEGEO_API int32_t PLANEGEO_CALL a2d_Chk3pnt(const DTPOINT *p1, const DTPOINT 
 /** @} */
 
 /** @defgroup solvers Polynomial solvers
+ *  Coefficients come highest degree first, n + 1 of them for degree n. Roots are
+ *  written as pairs (real part, imaginary part); a real root has the imaginary part
+ *  0. The result -1 always means that the leading coefficient is exactly zero;
+ *  nothing is written then. A nearly zero one is divided by as it is. None of these
+ *  reads errdist.
  *  @{ */
+
+/**
+ * Solves c[0] x + c[1] = 0.
+ *
+ * @param[in]  c two coefficients
+ * @param[out] x the root, one double without an imaginary part; untouched unless
+ *               the result is 1
+ * @return 1 one root; 0 both coefficients are zero, every x is a solution; -1 only
+ *         c[0] is zero, there is no solution
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL amaSolveLinerEquation(const double *c, double *x);
+
+/**
+ * Solves a quadratic equation.
+ *
+ * @param[in]  c   three coefficients
+ * @param[out] out two pairs: real roots greater first, else the conjugate with the
+ *                 positive imaginary part first; untouched when the result is -1
+ * @return 2 real roots (a double root counts as two), 0 a conjugate pair, -1
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL amaSolveEquationOf2ndD(const double *c, double *out);
+
+/**
+ * Solves a cubic equation.
+ *
+ * Three real roots come in the order of the cosines of a third of an angle, the
+ * greatest first. Where the discriminant is exactly zero, the simple root is written
+ * twice and then the double root once: 1, 1, -2 are reported as -2, -2, 1.
+ * Close to such a case rounding can take the argument of the arc cosine beyond 1;
+ * the roots are then NaN.
+ *
+ * @param[in]  c   four coefficients
+ * @param[out] out three pairs: with one real root that one first, then the conjugate
+ *                 with the imaginary part of positive sign in Cardano's formula;
+ *                 untouched when the result is -1
+ * @return 3 real roots, 1 real root and a conjugate pair, -1
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL amaSolveEquationOf3rdD(const double *c, double *out);
+
+/**
+ * Solves a quartic equation.
+ *
+ * The roots are those of two quadratic factors, each in the order of
+ * amaSolveEquationOf2ndD(). Without a linear term in the shifted quartic (exactly
+ * zero, or below 1e-5 and 1e-12 of the quadratic term) it is solved as biquadratic,
+ * and also where the resolvent cubic gives no factors.
+ *
+ * @param[in]  c   five coefficients
+ * @param[out] out four pairs; a factor with real roots before one without;
+ *                 untouched when the result is -1
+ * @return 4, 2 or 0, the roots reported as real; -1. Real roots computed through
+ *         complex arithmetic keep a small imaginary part and are not counted
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL amaSolveEquationOf4thD(const double *c, double *out);
+
+/**
+ * Returns the principal square root of a complex number: the real part is not
+ * negative, the imaginary part has the sign of @p z's. A negative real number gives
+ * a positive imaginary root.
+ */
+PLANEGEO_API DTCOMPLEX PLANEGEO_CALL ama_c_sqrt(DTCOMPLEX z);
 
 /** @} */
 

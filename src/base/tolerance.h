@@ -27,6 +27,11 @@ inline constexpr double kFootBeyondEndProduct = 1e-6;
 
 // Polynomial solvers.
 
+/// Linear term of a shifted quartic (<), and its ratio to the quadratic term (<), that are
+/// both ignored: the quartic then counts as biquadratic.
+inline constexpr double kBiquadraticLinearTerm = 1e-5;
+inline constexpr double kBiquadraticRatio = 1e-12;
+
 // Ellipses: record, queries, transforms.
 
 // Ellipses: length, area, division.
