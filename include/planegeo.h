@@ -462,12 +462,163 @@ PLANEGEO_API int32_t PLANEGEO_CALL a2d_Chk3pnt(const DTPOINT *p1, const DTPOINT 
 /** @} */
 
 /** @defgroup lineCircle Lines with circles and arcs
+ *  All find the points of one infinite line and one full circle, in the order of
+ *  cross_lin_cir(); they differ in what they check, keep and return.
+ *
+ *  The arc filter raises a negative angle by 360 once and reduces nothing else:
+ *  pass angles in [-360, 360]. Equal ends, or ends 360 apart (within 1e-8), mean
+ *  the full circle; both ends belong to the arc with 1e-8 degrees of slack. The
+ *  segment filter is that of a2d_onlin().
  *  @{ */
+
+/**
+ * Intersects the infinite line through @p a1 and @p a2 with a full circle.
+ *
+ *            out2        out1
+ *      a1 ----o-----------o----> a2
+ *
+ * The line is tangent when its distance from the centre differs from @p r by less
+ * than errdist, to either side; the one point is then the foot of the
+ * perpendicular from the centre.
+ *
+ * @param[in]  a1,a2  two points of the line; equal points are not checked for and
+ *                    give two non-finite outputs
+ * @param[in]  center,r the circle; a radius that is not positive has at most the
+ *                    tangent point
+ * @param[out] out1   the point further along the direction from a1 to a2
+ * @param[out] out2   the other point; the same point when tangent
+ * @param[out] count  2; 1 when tangent; 0 when the line misses the circle, and
+ *                    out1 and out2 are then untouched
+ * @return always 0; the outcome is @p count
+ * @see a2d_lin_arc for the checked form that keeps an arc or a segment
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL cross_lin_cir(const DTPOINT *a1, const DTPOINT *a2,
+                                                 const DTPOINT *center, double r, DTPOINT *out1,
+                                                 DTPOINT *out2, uint16_t *count);
+
+/**
+ * Intersects a line or segment with a circle or arc.
+ *
+ * @param[in]  mode   0 line and circle, 1 line and arc, 2 segment and circle,
+ *                    3 segment and arc; every other value as 0
+ * @param[in]  a1,a2  the line
+ * @param[in]  center,r the circle
+ * @param[in]  angles start and end of the arc, degrees; read in modes 1 and 3 only,
+ *                    may be null otherwise
+ * @param[out] out1,out2 the points kept, the one further along the direction from
+ *                    a1 to a2 first; a single point in both; (0, 0) in both when
+ *                    none is kept, also after invalid input
+ * @param[out] count  number of points kept
+ * @return 0 done, with or without points; 1 invalid input: r is not positive, or
+ *         a1 and a2 coincide within errdist in x and in y
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_lin_arc(uint32_t mode, const DTPOINT *a1, const DTPOINT *a2,
+                                               const DTPOINT *center, double r,
+                                               const double *angles, DTPOINT *out1, DTPOINT *out2,
+                                               uint16_t *count);
+
+/**
+ * Intersects an infinite line with a full circle, as a2d_lin_arc() in mode 0.
+ *
+ * @param[in]  a1,a2,center,r the line and the circle
+ * @param[out] out two points, filled as out1 and out2 there: both always
+ * @return the number of points, 0 to 2; 0 after invalid input
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2dCrsLC(const DTPOINT *a1, const DTPOINT *a2,
+                                            const DTPOINT *center, double r, DTPOINT *out);
+
+/**
+ * Intersects an infinite line with a full circle, as a2d_lin_arc() in mode 0.
+ *
+ * @param[in]  a1,a2,center,r the line and the circle
+ * @param[out] out1,out2,count as there
+ * @return 0 at least one point; 2071 none, for whatever reason
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_crslc(const DTPOINT *a1, const DTPOINT *a2,
+                                            const DTPOINT *center, double r, DTPOINT *out1,
+                                            DTPOINT *out2, uint16_t *count);
+
+/**
+ * Intersects an infinite line with an arc, as a2d_lin_arc() in mode 1.
+ *
+ * @param[in]  a1,a2,center,r,angles the line and the arc
+ * @param[out] out1,out2,count as there
+ * @return 0 at least one point; 2071 none, for whatever reason
+ * @see sb_inslc, the same with the result of a2d_lin_arc()
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_crslc2(const DTPOINT *a1, const DTPOINT *a2,
+                                             const DTPOINT *center, double r, const double *angles,
+                                             DTPOINT *out1, DTPOINT *out2, uint16_t *count);
+
+/** Intersects a segment with an arc: a2d_lin_arc() in mode 3, with its result. */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_inslc(const DTPOINT *a1, const DTPOINT *a2,
+                                            const DTPOINT *center, double r, const double *angles,
+                                            DTPOINT *out1, DTPOINT *out2, uint16_t *count);
+/** The same function as ca_inslc(). */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_inslc(const DTPOINT *a1, const DTPOINT *a2,
+                                             const DTPOINT *center, double r, const double *angles,
+                                             DTPOINT *out1, DTPOINT *out2, uint16_t *count);
+/** Intersects an infinite line with an arc: a2d_lin_arc() in mode 1, with its result. */
+PLANEGEO_API int32_t PLANEGEO_CALL sb_inslc(const DTPOINT *a1, const DTPOINT *a2,
+                                            const DTPOINT *center, double r, const double *angles,
+                                            DTPOINT *out1, DTPOINT *out2, uint16_t *count);
 
 /** @} */
 
 /** @defgroup circleCircle Circles with circles
  *  @{ */
+
+/**
+ * Intersects two full circles, with tolerances of its own.
+ *
+ * Circles touch when the distance of the centres differs from the sum or from the
+ * difference of the radii by at most 1e-6. The point of an outer or inner touch lies on
+ * the line of the centres; between equal radii (within 1e-12) it is the midpoint
+ * of the centres. Centres nearer than 1e-6 count as concentric, without points
+ * even when the circles are equal.
+ *
+ * @param[in]  c1,r1,c2,r2 centre and radius of each circle; radii are not checked
+ * @param[out] out four doubles x, y, x, y. Of two points the first lies right of
+ *                 the direction from c1 to c2; the last two doubles are untouched
+ *                 with one point, all four with none
+ * @return the number of points, 0 to 2
+ * @see a2d_ins2c for arcs and errdist; mind the other order of arguments
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2dCrs2C(const DTPOINT *c1, double r1, const DTPOINT *c2,
+                                            double r2, double *out);
+
+/**
+ * Intersects two arcs, with errdist.
+ *
+ * A point is kept when it lies on both arcs. A range with equal ends, or ends 360
+ * apart (within 1e-8), is a full circle; other ends belong to their arc with
+ * 0.0001 degrees of slack, which does not reach back across 0: on an arc that
+ * starts at 0 a point at 359.99997 is off. Of the ranges only a negative angle is
+ * raised, by 360.
+ *
+ * Arcs of one circle (centres and radii equal within errdist) meet only where one
+ * ends and the other begins: first the start of arc 1, then its end. Where they
+ * overlap they have no point.
+ *
+ * @param[in]  c1,c2,r1,r2 centres, then radii
+ * @param[in]  angles1,angles2 start and end of each arc, degrees
+ * @param[out] out1,out2 the points kept, the one right of the direction from c1 to
+ *                 c2 first; a single point in both. (0, 0) in both when the ranges
+ *                 keep none; untouched when the circles do not meet, when concentric
+ *                 arcs share no end, and when the result is 1
+ * @param[out] count number of points, always written
+ * @return 0 done, with or without points; 1 when the arcs are identical (radii,
+ *         centres and angles within errdist) or a radius is not positive
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_ins2c(const DTPOINT *c1, const DTPOINT *c2, double r1,
+                                             double r2, const double *angles1,
+                                             const double *angles2, DTPOINT *out1, DTPOINT *out2,
+                                             uint16_t *count);
+/** As a2d_ins2c(), but a range is a full circle only when its ends are exactly
+ *  equal or exactly 360 apart. */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_ins2c(const DTPOINT *c1, const DTPOINT *c2, double r1,
+                                            double r2, const double *angles1, const double *angles2,
+                                            DTPOINT *out1, DTPOINT *out2, uint16_t *count);
 
 /** @} */
 

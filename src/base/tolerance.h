@@ -25,6 +25,20 @@ inline constexpr double kFootBeyondEndProduct = 1e-6;
 
 // Circles and arcs.
 
+/// Ends of a range that make a full circle (<), slack of both ends, and what a direction may
+/// lack to 360 to count as 0 (<): a2d_lin_arc.
+inline constexpr double kLineArcSlackDeg = 1e-8;
+/// Squared distance of concentric centres (<): a2dCrs2C.
+inline constexpr double kConcentricSquared = 1e-12;
+/// Circles this near to touching touch, from inside or outside (< and >): a2dCrs2C.
+inline constexpr double kTouchLength = 1e-6;
+/// Radii are equal, and the touch is midway between the centres (<): a2dCrs2C.
+inline constexpr double kEqualRadiiLength = 1e-12;
+/// Ends of a range that make a full circle (<): a2d_ins2c. ca_ins2c asks for equality.
+inline constexpr double kFullArcSlackDeg = 1e-8;
+/// Slack of both ends of an arc that meets an arc: a2d_ins2c, ca_ins2c.
+inline constexpr double kArcArcSlackDeg = 0.0001;
+
 // Polynomial solvers.
 
 /// Linear term of a shifted quartic (<), and its ratio to the quadratic term (<), that are
