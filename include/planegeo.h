@@ -734,7 +734,139 @@ PLANEGEO_API DTCOMPLEX PLANEGEO_CALL ama_c_sqrt(DTCOMPLEX z);
 /** @} */
 
 /** @defgroup lineEllipse Lines with ellipses
+ *  Lines are infinite. An axis may be the longer one or not.
  *  @{ */
+
+/**
+ * Intersects a line with an ellipse, with a tolerance of the call.
+ *
+ * The plane is stretched across the first axis by a/b, so that the ellipse becomes
+ * a circle of radius a/2. There the line is tangent when its distance from the
+ * centre differs from the radius by less than @p tol, to either side: on an
+ * ellipse with a short second axis that is a much smaller distance in the plane.
+ *
+ * @param[in]  p1,p2  two points of the line
+ * @param[in]  center,a,b,rot the ellipse: full axes, rotation in degrees
+ * @param[out] out1   the point further along the direction from p2 to p1; the
+ *                    touching point when tangent; (0, 0) when there is none
+ * @param[out] out2   the other point, or (0, 0)
+ * @param[out] count  32 bits: 0, 1 or 2 points; 0 when degenerate
+ * @param[in]  tol    drawing units
+ * @return 0 solved; 1 degenerate, out1 and out2 are then untouched: an axis is
+ *         zero, or the line or its stretched unit direction is shorter than tol
+ * @see a2d_insle with errdist and a 16-bit count
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_CrsLE(const DTPOINT *p1, const DTPOINT *p2,
+                                             const DTPOINT *center, double a, double b, double rot,
+                                             DTPOINT *out1, DTPOINT *out2, uint32_t *count,
+                                             double tol);
+
+/**
+ * Intersects a line with an ellipse as a2d_CrsLE() does, with errdist for tolerance.
+ *
+ * @param[in]  p1,p2  two points of the line
+ * @param[in]  center,a,b,rot the ellipse: full axes, rotation in degrees
+ * @param[out] out1,out2 the points, the one on p1's side first; (0, 0) where there
+ *                    is none; untouched when degenerate
+ * @param[out] count  0, 1 or 2 points; 0 when degenerate
+ * @return 0 solved, -1 degenerate
+ * @see a2d_insl1 for an elliptic arc
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_insle(const DTPOINT *p1, const DTPOINT *p2,
+                                             const DTPOINT *center, double a, double b, double rot,
+                                             DTPOINT *out1, DTPOINT *out2, uint16_t *count);
+/** The same function as a2d_insle(). */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_insle(const DTPOINT *p1, const DTPOINT *p2,
+                                            const DTPOINT *center, double a, double b, double rot,
+                                            DTPOINT *out1, DTPOINT *out2, uint16_t *count);
+/** The same function as a2d_insle(). */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_insle2(const DTPOINT *p1, const DTPOINT *p2,
+                                              const DTPOINT *center, double a, double b, double rot,
+                                              DTPOINT *out1, DTPOINT *out2, uint16_t *count);
+
+/**
+ * Intersects a line with an elliptic arc.
+ *
+ * The points are those of a2d_insle(); kept are those whose direction from the
+ * centre lies between the directions of the arc's ends, with 1e-8 degrees of
+ * slack. Directions within 1e-7 units of an axis snap onto it, those of the ends
+ * in the ellipse's frame, those of the points in the plane.
+ *
+ * @param[in]  p1,p2  two points of the line
+ * @param[in]  center,a,b,rot the ellipse: full axes, rotation in degrees
+ * @param[in]  angles start and end of the arc, parametric degrees; equal ends mean
+ *                    the full ellipse
+ * @param[out] out1   the first point kept, or (0, 0)
+ * @param[out] out2   the second point kept, or (0, 0); both are untouched when
+ *                    degenerate
+ * @param[out] count  0, 1 or 2 points kept; 0 when degenerate
+ * @return 0 solved, -1 degenerate
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_insl1(const DTPOINT *p1, const DTPOINT *p2,
+                                             const DTPOINT *center, double a, double b, double rot,
+                                             const double *angles, DTPOINT *out1, DTPOINT *out2,
+                                             uint16_t *count);
+
+/**
+ * Intersects a line with the ellipse centred at the origin with its first axis
+ * along x.
+ *
+ * A line that a2d_IsElpTangentLine() accepts gives its touching point. Points no
+ * further apart than errdist count as one.
+ *
+ * @param[in]  p1,p2 two points of the line; vertical when their x differ by less
+ *                   than 1e-8
+ * @param[in]  a,b   full axes; a zero axis has no points, unless the line touches
+ *                   its end or is vertical
+ * @param[out] out1  the point with the greater x, of a vertical line with the
+ *                   greater y; (0, 0) when there is none
+ * @param[out] out2  the other point, or (0, 0)
+ * @param[out] count 0, 1 or 2 points
+ * @return 0 solved; -1 axes too long for their squares left no quadratic, both
+ *         outputs are then (0, 0)
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_insLStandardE(const DTPOINT *p1, const DTPOINT *p2, double a,
+                                                     double b, DTPOINT *out1, DTPOINT *out2,
+                                                     uint16_t *count);
+
+/**
+ * Tells whether a line touches the ellipse centred at the origin with its first
+ * axis along x.
+ *
+ * A line parallel to an axis (within 1e-8) touches when its distance from the
+ * centre is half the other axis within 1e-6. Any other line touches when the
+ * products of the focal tangent property differ by no more than 1e-6, a squared
+ * length, and its touching point lies within 1e-6 of it. Where the second axis is
+ * the longer the foci decide nothing and the touching point alone does. Nothing
+ * here follows errdist; only a line shorter than it counts as 0 away from all.
+ *
+ * @param[in]  p1,p2 two points of the line
+ * @param[in]  a,b   full axes
+ * @param[out] out   the touching point; untouched when the result is -1
+ * @return 0 tangent; -1 not, or a line that crosses the first axis within the ellipse
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_IsElpTangentLine(const DTPOINT *p1, const DTPOINT *p2,
+                                                        double a, double b, DTPOINT *out);
+
+/**
+ * Selects the end of an elliptic arc to keep where it is cut by the same ellipse.
+ *
+ * With the flag of ca_SetStartendFlg() at 1 that is the start of @p e1, else its
+ * end; PLANEGEO_ATTR_REVERSED in its attribute word exchanges the two. A full
+ * ellipse @p e2 does not ask the flag: it gives the start when the bit is set,
+ * else the end.
+ *
+ * @param[in]  e1  the arc whose end is wanted
+ * @param[in]  e2  the cutting arc; its range runs from its end to its start when
+ *                 exactly one of PLANEGEO_ATTR_REVERSED and
+ *                 PLANEGEO_ATTR_CLOCKWISE is set
+ * @param[out] out the end; untouched unless the result is 1
+ * @return 1 chosen; 0 the end is not on @p e2 (1e-8 degrees of slack); -1 not the
+ *         same ellipse: centres and axes must agree within errdist, rotations
+ *         within 1e-8 degrees or differ by 180, even those of a circle
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_InsDe(const DTELLIPSE *e1, const DTELLIPSE *e2,
+                                             DTPOINT *out);
 
 /** @} */
 

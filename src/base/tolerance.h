@@ -54,6 +54,28 @@ inline constexpr double kBiquadraticRatio = 1e-12;
 
 // Ellipses: intersections.
 
+/// A difference of coordinates of a line parallel to an axis (<): a2d_insLStandardE,
+/// a2d_IsElpTangentLine.
+inline constexpr double kAxisParallelSpan = 1e-8;
+/// Distance of a line along one axis from the ends of the other, where it touches (<=):
+/// a2d_IsElpTangentLine.
+inline constexpr double kAxisTouchDistance = 1e-6;
+/// Excess of the focal distance over half the first axis that is still an ellipse (refused
+/// when >): a2d_IsElpTangentLine.
+inline constexpr double kLineFocusExcess = 1e-6;
+/// Difference of squared lengths in the focal test of a tangent (no tangent when >):
+/// a2d_IsElpTangentLine.
+inline constexpr double kFocalDifference = 1e-6;
+/// Distance of a touching point from its line (<=): a2d_IsElpTangentLine.
+inline constexpr double kTouchDistance = 1e-6;
+/// Discriminant (length to the sixth, times four) of a vertical line that touches (<=):
+/// a2d_insLStandardE.
+inline constexpr double kVerticalTouchDiscriminant = 1e-6;
+/// Rotations of the same ellipse are equal, or differ by 180 (<): a2d_InsDe.
+inline constexpr double kSameRotationDeg = 1e-8;
+/// A range that differs from 360 by less is a full ellipse (<): a2d_InsDe.
+inline constexpr double kFullEllipseDeg = 1e-8;
+
 // Ellipses: perpendiculars, tangents, distances.
 
 } // namespace planegeo

@@ -1,0 +1,62 @@
+/// Sums and products of doubles with twice their digits, for decisions on small differences of
+/// large squares.
+#pragma once
+
+#include "base/vec2.h"
+
+namespace planegeo {
+
+/// A number of some 106 bits as the unevaluated sum of two doubles, |lo| <= ulp(hi) / 2.
+///
+/// `sum`, `difference` and `product` of doubles are exact; what is built from them loses a few
+/// units of 2^-105. Overflow gives NaN, in products from 2^1023 on.
+struct Doubled {
+    double hi;
+    double lo;
+
+    constexpr Doubled(double value = 0.0) : hi(value), lo(0.0) {}
+    constexpr Doubled(double high, double low) : hi(high), lo(low) {}
+
+    static constexpr Doubled sum(double a, double b) {
+        const double s = a + b;
+        const double part = s - a;
+        return {s, (a - (s - part)) + (b - part)};
+    }
+    static constexpr Doubled difference(double a, double b) { return sum(a, -b); }
+    static Doubled product(double a, double b) {
+        const double p = a * b;
+        return {p, std::fma(a, b, -p)};
+    }
+    /// a + b where |a| >= |b|.
+    static constexpr Doubled ordered(double a, double b) {
+        const double s = a + b;
+        return {s, b - (s - a)};
+    }
+
+    constexpr double value() const { return hi + lo; }
+};
+
+constexpr Doubled operator-(Doubled v) { return {-v.hi, -v.lo}; }
+
+inline Doubled operator+(Doubled v, Doubled w) {
+    const Doubled high = Doubled::sum(v.hi, w.hi);
+    const Doubled low = Doubled::sum(v.lo, w.lo);
+    const Doubled carried = Doubled::ordered(high.hi, high.lo + low.hi);
+    return Doubled::ordered(carried.hi, carried.lo + low.lo);
+}
+inline Doubled operator-(Doubled v, Doubled w) { return v + -w; }
+
+inline Doubled operator*(Doubled v, Doubled w) {
+    const Doubled p = Doubled::product(v.hi, w.hi);
+    return Doubled::ordered(p.hi, p.lo + (v.hi * w.lo + v.lo * w.hi));
+}
+inline Doubled squared(Doubled v) { return v * v; }
+
+/// cross(v, w) to an ulp or two, however much of the two products cancels.
+inline double accurateCross(Vec2 v, Vec2 w) {
+    const double right = v.y * w.x;
+    const double lost = std::fma(v.y, w.x, -right);
+    return std::fma(v.x, w.y, -right) - lost;
+}
+
+} // namespace planegeo
