@@ -704,12 +704,216 @@ PLANEGEO_API DTCOMPLEX PLANEGEO_CALL ama_c_sqrt(DTCOMPLEX z);
 /** @} */
 
 /** @defgroup ellipses Ellipses: record and parameter conversion
+ *  A place on an ellipse has three names: its parametric angle t, its polar angle
+ *  (the direction of the ray from the centre through it) and the point itself.
+ *  Both angles are measured from the first axis and agree on the axes only, unless
+ *  the ellipse is a circle.
+ *
+ *  Where an ellipse comes as separate arguments they are the centre, the full
+ *  lengths @p a and @p b of the first and second axis, the rotation @p rot in
+ *  degrees and, where a range is needed, two parametric angles, start and end.
  *  @{ */
+
+/**
+ * Finds the end points of an elliptic arc.
+ *
+ * @param[in]  center,a,b,rot the ellipse
+ * @param[in]  angles two doubles, the parametric angles of start and end
+ * @param[out] points four doubles: start x, start y, end x, end y
+ * @return always 0
+ * @see a2d_elpdeg for the way back
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_elpcd(const DTPOINT *center, double a, double b, double rot,
+                                            const double *angles, double *points);
+
+/**
+ * Finds the parametric angle of a point: of the place where the ray from the centre
+ * meets the ellipse once both are stretched so that the ellipse is a circle.
+ *
+ * The point need not lie on the ellipse. With a negative axis the angle is that of
+ * the stretched point itself.
+ *
+ * @param[in]  point  the point; the centre gives -rot
+ * @param[in]  center,a,b,rot the ellipse
+ * @param[out] angle  degrees, a direction in [0, 360] less @p rot and not reduced:
+ *                    350 on an ellipse turned by 30 comes out as -10
+ * @return 0 done; -1 when an axis is shorter than errdist, @p angle is then untouched
+ * @see a2d_StdSedeg, a2d_ChkDegr, which reduce it
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_elpdeg(const DTPOINT *point, const DTPOINT *center, double a,
+                                              double b, double rot, double *angle);
+
+/**
+ * Finds axes and rotation of the ellipse through the ends of two conjugate
+ * semi-diameters (parameters 90 degrees apart).
+ *
+ * Semi-diameters whose dot product is below 1e-6 count as perpendicular and are the
+ * semi-axes; they are exchanged, and 90 is added to the rotation, when the second
+ * is the longer.
+ *
+ * @param[in]  p,q    ends of the two semi-diameters
+ * @param[in]  center centre of the ellipse
+ * @param[out] a,b    full axis lengths, a never below b
+ * @param[out] rot    degrees, [0, 360) in general, up to 450 for the perpendicular
+ *                    case
+ * @return 0 done; -1 when the cross product of the semi-diameters is below 1e-6 (they
+ *         lie on one line), the three outputs are then 0
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2dGetEllipsDt(const DTPOINT *p, const DTPOINT *q,
+                                                  const DTPOINT *center, double *a, double *b,
+                                                  double *rot);
+
+/**
+ * Converts between parametric and polar angle.
+ *
+ * @param[in]     mode       0 parametric to polar, 1 polar to parametric
+ * @param[in]     ellipse    only the axes are read
+ * @param[in,out] parametric degrees; read in mode 0, written in mode 1, in [0, 360]
+ * @param[in,out] polar      degrees; written in mode 0, in [0, 360], read in mode 1
+ * @return 0 done; -1 for another mode, nothing is then written
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_ElpAngle(int16_t mode, const DTELLIPSE *ellipse,
+                                               double *parametric, double *polar);
+
+/**
+ * Finds the place of an angle on an ellipse as an offset from the centre.
+ *
+ * @param[in]  mode    0 the angle is parametric, 1 it is polar
+ * @param[in]  ellipse axes and rotation are read; a rotation of up to 1e-6 to either
+ *                     side of 0 is not applied
+ * @param[in]  angle   degrees
+ * @param[out] offset  the point less the centre, which callers add themselves
+ * @return 0 done; -1 for another mode, @p offset is then untouched
+ * @see ca_elpcd, which adds the centre
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_ElpCordXY(int16_t mode, const DTELLIPSE *ellipse,
+                                                double angle, DTPOINT *offset);
 
 /** @} */
 
 /** @defgroup ellipseQueries Ellipses: queries and transforms
  *  @{ */
+
+/**
+ * Finds the foci of an ellipse from its semi-axes.
+ *
+ * The lengths are taken as they are: unlike elsewhere, pass half the axes to get the
+ * foci. A circle has both in the centre.
+ *
+ * @param[in]  center centre of the ellipse
+ * @param[in]  a,b    semi-axes; with b longer than a the foci are NaN, and 0 is returned
+ * @param[in]  rot    degrees
+ * @param[out] focus1 centre - c (cos rot, sin rot), with c^2 = a^2 - b^2
+ * @param[out] focus2 centre + c (cos rot, sin rot)
+ * @return 0 done; -1 when c - a exceeds 1e-6, as with a negative @p a, the outputs are
+ *         then untouched
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL GetElpFocusPnt(const DTPOINT *center, double a, double b,
+                                                  double rot, DTPOINT *focus1, DTPOINT *focus2);
+
+/**
+ * Finds the tangent at a point of an ellipse about the origin whose first axis lies
+ * along x.
+ *
+ * @param[in]  ratio   second semi-axis over first; 0 is not checked for and divides by
+ *                     zero
+ * @param[in]  point   the point
+ * @param[out] tangent anticlockwise, not of unit length: (-y / ratio, x ratio);
+ *                     untouched when the result is 1
+ * @return 0 done; 1 for a null pointer or a ratio above 1
+ * @see a2d_GetTangentVectorOnDTELLIPSE for an ellipse anywhere
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_GetTangentVectorOnElp(double ratio, const DTPOINT *point,
+                                                             DTPOINT *tangent);
+
+/**
+ * Finds the tangent at a point of an ellipse.
+ *
+ * The first axis is to be the longer one: with a longer second axis the vector is
+ * that of the ellipse with its axes exchanged.
+ *
+ * @param[in]  ellipse start and end are not read
+ * @param[in]  point   the point, in the plane
+ * @param[out] tangent anticlockwise, not of unit length; untouched when the result is 1
+ * @return 0 done; 1 for a null pointer or an axis of zero or below
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_GetTangentVectorOnDTELLIPSE(const DTELLIPSE *ellipse,
+                                                                   const DTPOINT *point,
+                                                                   DTPOINT *tangent);
+
+/**
+ * Tells whether the parametric angle of a point lies on an elliptic arc; the point
+ * need not lie on the curve.
+ *
+ * The arc runs anticlockwise from start to end, both with 1e-8 degrees of slack; ends
+ * that are equal after reduction are the whole turn.
+ *
+ * @param[in] ellipse the arc
+ * @param[in] point   the point
+ * @return 0 on the arc; 1 off it, or when an axis is shorter than errdist
+ * @see ca_onelp, which asks for the curve as well
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL CheckEllipseArcAngle(const DTELLIPSE *ellipse,
+                                                        const DTPOINT *point);
+
+/**
+ * Tells whether an infinite line cuts, touches or misses a whole ellipse.
+ *
+ * A line whose two points differ by at most 1e-6 across an axis runs along that axis
+ * and touches within 0.0001 units; any other touches where the discriminant of
+ * y = m x + c against the ellipse, a squared length, is within 0.0001 of zero.
+ *
+ * @param[in] line    two points of the line
+ * @param[in] ellipse start and end are not read
+ * @return 0 misses, 1 touches, 2 cuts
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_hanel(const DTLINE *line, const DTELLIPSE *ellipse);
+
+/**
+ * Tells whether a point lies on an elliptic arc.
+ *
+ * It lies on the curve when its distances from the foci add up to the longer axis
+ * within 1e-6, and on the arc when pin_chk() finds its direction between those of the
+ * arc's ends, where local components below 1e-7 count as zero. Start and end both 0
+ * (or 0 and 360) are the whole turn; other equal angles are that one direction.
+ *
+ * @param[in] center,a,b,rot,angles the arc
+ * @param[in] point the point; one with a NaN counts as on the arc
+ * @return 0 on the arc; 1 off the curve or outside the arc; -1 an axis is 1e-8 or
+ *         shorter
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_onelp(const DTPOINT *center, double a, double b, double rot,
+                                            const double *angles, const DTPOINT *point);
+
+/**
+ * Tells whether the direction of a point lies in a polar range, with 1e-8 degrees of
+ * slack.
+ *
+ * The direction is that of ca_vcrad() less @p rot, raised by a turn where it is
+ * negative. A start above the end crosses 0. Ends both within 1e-6 of 0 are the whole
+ * turn. A negative start is raised by a turn, and a negative end with it; a start that
+ * stays negative, or an end below 0 on its own, holds nothing.
+ *
+ * @param[in] center centre of the ellipse
+ * @param[in] rot    rotation of its first axis, degrees
+ * @param[in] range  two doubles, start and end, polar, measured from the first axis
+ * @param[in] point  the point
+ * @return 0 in the range, 1 outside; 0 for a direction that is NaN
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL pin_chk(const DTPOINT *center, double rot, const double *range,
+                                           const DTPOINT *point);
+
+/**
+ * Tells whether a point lies inside, on or outside an ellipse, by the sum of its
+ * distances from the foci, within 1e-6.
+ *
+ * @param[in]  center,a,b,rot the ellipse
+ * @param[in]  point    the point
+ * @param[out] position 0 on the ellipse, 1 outside, 65535 inside; 0 when the result is -1
+ * @return 0 done; -1 an axis is 1e-8 or shorter
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_posel(const DTPOINT *center, double a, double b, double rot,
+                                            const DTPOINT *point, uint16_t *position);
 
 /** @} */
 

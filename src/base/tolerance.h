@@ -48,6 +48,31 @@ inline constexpr double kBiquadraticRatio = 1e-12;
 
 // Ellipses: record, queries, transforms.
 
+/// Cross product of two semi-diameters on one line (<): a2dGetEllipsDt.
+inline constexpr double kConjugateCollinearCross = 1e-6;
+/// Dot product of perpendicular semi-diameters, which are then the semi-axes (<): a2dGetEllipsDt.
+inline constexpr double kConjugatePerpendicularDot = 1e-6;
+/// Rotations above it turn an offset from the centre (>): ca_ElpCordXY.
+inline constexpr double kOffsetTurnDeg = 1e-6;
+/// A focus this far beyond the end of the axis is none (>): GetElpFocusPnt.
+inline constexpr double kFocusBeyondAxis = 1e-6;
+/// Two ordinates (<=) or abscissas (not >) of a line along an axis are equal: a2d_hanel.
+inline constexpr double kLineAlongAxis = 1e-6;
+/// A line touches (<=): a length along an axis, a discriminant elsewhere: a2d_hanel.
+inline constexpr double kLineTouches = 0.0001;
+/// A full axis that leaves nothing to ask (<=): ca_onelp, ca_posel.
+inline constexpr double kAxisTooShort = 1e-8;
+/// A rotation turns the foci from it on (>=): ca_onelp, ca_posel.
+inline constexpr double kFociTurnDeg = 1e-6;
+/// The two focal distances of a point on the curve add up to the long axis (<): ca_onelp, ca_posel.
+inline constexpr double kFocalSumSlack = 1e-6;
+/// A direction may lie this far outside a polar range, and an angle below 0 by it (<): pin_chk.
+inline constexpr double kPolarSlackDeg = 1e-8;
+/// Directions above it are lowered by a turn, once (>): pin_chk.
+inline constexpr double kPolarMaxDeg = 360.00000001;
+/// A polar range whose ends are both this near to 0 is the whole turn (<): pin_chk.
+inline constexpr double kWholeTurnAtZeroDeg = 1e-6;
+
 // Ellipses: length, area, division.
 
 // Ellipses: chains of arcs, extents.

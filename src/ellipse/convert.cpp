@@ -1,0 +1,164 @@
+// From one name of a place on an ellipse to another; axes from conjugate semi-diameters.
+//
+// Angles leave unreduced where the functions say so: callers normalise them as arc ranges.
+
+#include "ellipse/convert.h"
+
+#include <algorithm>
+
+#include "base/settings.h"
+#include "base/tolerance.h"
+
+namespace planegeo {
+
+namespace {
+
+/// The local point of the ellipse along a polar angle, from its half axes.
+///
+/// rho^2 = A^2 B^2 / (B^2 cos^2 + A^2 sin^2)
+Vec2 pointAtPolar(double halfFirst, double halfSecond, double polarDeg) {
+    const Rotation polar = Rotation::ofDegrees(polarDeg);
+    const double a2 = halfFirst * halfFirst;
+    const double b2 = halfSecond * halfSecond;
+    const double rho = std::sqrt(a2 * b2 / (b2 * polar.c * polar.c + a2 * polar.s * polar.s));
+    return {rho * polar.c, rho * polar.s};
+}
+
+/// Rytz: u turned clockwise by a quarter makes with v a pair whose half sum and half
+/// difference have the half sum and half difference of the semi-axes as lengths.
+EllipseAxes axesByRytz(Vec2 u, Vec2 v) {
+    const Vec2 turned = {u.y, -u.x};
+    const Vec2 middle = (v + turned) * 0.5;
+    const Vec2 toV = v - middle;
+    const double m = plainLength(middle);
+    const double n = plainLength(toV);
+    // Half the second axis is |n - m|; their product with the half first one, |n - m| (n + m), is
+    // the parallelogram of u and v, which loses nothing when the ellipse is flat.
+    const double halfFirst = m + n;
+    const double halfSecond = std::min(std::fabs(cross(u, v)) / halfFirst, halfFirst);
+    double rotation = directionDeg(middle + toV * (m / n));
+    rotation -= 360.0 * std::floor(rotation / 360.0);
+    return {2.0 * halfFirst, 2.0 * halfSecond, rotation};
+}
+
+} // namespace
+
+std::optional<double> parameterOfPoint(Vec2 point, const EllipseFrame &frame, double rotationDeg) {
+    const double tolerance = distanceTolerance();
+    const double halfFirst = frame.halfFirst;
+    const double halfSecond = frame.halfSecond;
+    if (std::fabs(2.0 * halfFirst) < tolerance || std::fabs(2.0 * halfSecond) < tolerance) {
+        return std::nullopt;
+    }
+    // The plane is stretched from the first axis until the ellipse is the circle of radius
+    // halfFirst. Where half the axis is too short for a foot on it, the point is its own foot.
+    const Vec2 axis = {halfFirst * frame.turn.c, halfFirst * frame.turn.s};
+    const bool hasFoot = !(std::fabs(halfFirst) < tolerance);
+    const Vec2 foot = hasFoot ? footOnLine(point, frame.center, axis).point : point;
+    const Vec2 stretched = foot + (point - foot) * (halfFirst / halfSecond);
+    // Not reduced on purpose; the centre itself gives -rotationDeg.
+    return directionDeg(stretched - frame.center) - rotationDeg;
+}
+
+double parameterOfPolar(double first, double second, double polarDeg) {
+    const Vec2 point = pointAtPolar(first * 0.5, second * 0.5, polarDeg);
+    return directionDeg({point.x * second, point.y * first});
+}
+
+std::optional<EllipseAxes> axesOfConjugates(Vec2 u, Vec2 v) {
+    if (std::fabs(cross(u, v)) < kConjugateCollinearCross) return std::nullopt;
+    if (!(std::fabs(dot(u, v)) < kConjugatePerpendicularDot)) return axesByRytz(u, v);
+    EllipseAxes axes = {2.0 * plainLength(u), 2.0 * plainLength(v), directionDeg(u)};
+    if (axes.second > axes.first) {
+        std::swap(axes.first, axes.second);
+        axes.rotationDeg += 90.0; // not reduced on purpose: up to 450
+    }
+    return axes;
+}
+
+std::optional<ScaledEllipse> scaledAlongY(const DTELLIPSE &ellipse, double k) {
+    const double tolerance = distanceTolerance();
+    if (tolerance >= ellipse.b || tolerance >= ellipse.a) return std::nullopt;
+    // Everything but the centre is taken from the centre: it keeps its digits far from the origin.
+    const auto imageOf = [k, frame = EllipseFrame::of(ellipse)](double parameterDeg) {
+        const Vec2 offset = frame.turn.apply(frame.localAt(parameterDeg));
+        return Vec2{offset.x, offset.y * k};
+    };
+    const EllipseAxes axes =
+        axesOfConjugates(imageOf(0.0), imageOf(90.0)).value_or(EllipseAxes{0.0, 0.0, 0.0});
+    const EllipseFrame image =
+        EllipseFrame::of({0.0, 0.0}, axes.first, axes.second, axes.rotationDeg);
+    return ScaledEllipse{{ellipse.cx, ellipse.cy * k},
+                         axes,
+                         parameterOfPoint(imageOf(ellipse.start), image, axes.rotationDeg),
+                         parameterOfPoint(imageOf(ellipse.end), image, axes.rotationDeg)};
+}
+
+} // namespace planegeo
+
+namespace {
+
+using namespace planegeo;
+
+enum AngleKind : int16_t { kParametric = 0, kPolar = 1 };
+
+} // namespace
+
+extern "C" {
+
+int32_t ca_elpcd(const DTPOINT *center, double a, double b, double rot, const double *angles,
+                 double *points) {
+    const EllipseFrame frame = EllipseFrame::of(load(center), a, b, rot);
+    const Vec2 start = frame.at(angles[0]);
+    const Vec2 end = frame.at(angles[1]);
+    points[0] = start.x;
+    points[1] = start.y;
+    points[2] = end.x;
+    points[3] = end.y;
+    return 0;
+}
+
+int32_t a2d_elpdeg(const DTPOINT *point, const DTPOINT *center, double a, double b, double rot,
+                   double *angle) {
+    const auto parameter =
+        parameterOfPoint(load(point), EllipseFrame::of(load(center), a, b, rot), rot);
+    if (!parameter) return -1;
+    *angle = *parameter;
+    return 0;
+}
+
+int32_t a2dGetEllipsDt(const DTPOINT *p, const DTPOINT *q, const DTPOINT *center, double *a,
+                       double *b, double *rot) {
+    const Vec2 o = load(center);
+    const auto found = axesOfConjugates(load(p) - o, load(q) - o);
+    const EllipseAxes axes = found.value_or(EllipseAxes{0.0, 0.0, 0.0});
+    *a = axes.first;
+    *b = axes.second;
+    *rot = axes.rotationDeg;
+    return found ? 0 : -1;
+}
+
+int32_t ca_ElpAngle(int16_t mode, const DTELLIPSE *ellipse, double *parametric, double *polar) {
+    switch (mode) {
+    case kParametric:
+        *polar = polarOfParameter(ellipse->a, ellipse->b, *parametric);
+        return 0;
+    case kPolar:
+        *parametric = parameterOfPolar(ellipse->a, ellipse->b, *polar);
+        return 0;
+    default:
+        return -1;
+    }
+}
+
+int32_t ca_ElpCordXY(int16_t mode, const DTELLIPSE *ellipse, double angle, DTPOINT *offset) {
+    if (mode != kParametric && mode != kPolar) return -1;
+    const EllipseFrame frame = EllipseFrame::of(*ellipse);
+    const Vec2 local = mode == kParametric ? frame.localAt(angle)
+                                           : pointAtPolar(frame.halfFirst, frame.halfSecond, angle);
+    // The centre is left out on purpose: the offset is the answer.
+    store(std::fabs(ellipse->rot) > kOffsetTurnDeg ? frame.turn.apply(local) : local, offset);
+    return 0;
+}
+
+} // extern "C"

@@ -1,0 +1,26 @@
+/// Where a point lies to an ellipse: on the arc, in a polar range, inside or outside.
+#pragma once
+
+#include <cstdint>
+
+#include "base/angle.h"
+#include "ellipse/frame.h"
+
+namespace planegeo {
+
+/// Sum of the distances of a point to the two foci, less the length of the longer axis: zero on
+/// the curve, positive outside. For positive axes.
+double focalExcess(Vec2 point, const EllipseFrame &frame, double rotationDeg);
+
+/// Whether a polar range holds a direction; both are measured from the same axis and not
+/// reduced. The slack is kPolarSlackDeg; an end below 0 is meant only where the start is too.
+bool inPolarRange(AngleRange range, double directionDeg);
+
+enum class OnEllipseArc : std::int32_t { yes = 0, no = 1, axisTooShort = -1 };
+
+/// Whether a point lies on the curve within kFocalSumSlack and its direction between those of
+/// the arc's ends, given by parameters (0 and 0 is the whole turn).
+OnEllipseArc onEllipseArc(Vec2 point, const EllipseFrame &frame, double rotationDeg,
+                          AngleRange parameters);
+
+} // namespace planegeo
