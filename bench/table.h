@@ -51,9 +51,9 @@ void run(benchmark::State &state, const Inputs &inputs, Call call) {
             benchmark::DoNotOptimize(call(input));
         }
     }
-    state.counters["per_call"] = benchmark::Counter(
-        static_cast<double>(kTableSize),
-        benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+    state.counters["per_call"] = benchmark::Counter(static_cast<double>(kTableSize),
+                                                    benchmark::Counter::kIsIterationInvariantRate |
+                                                        benchmark::Counter::kInvert);
 }
 
 /// Registers a row under the function's name.

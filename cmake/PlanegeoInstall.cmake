@@ -19,6 +19,13 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/planegeo-config.cmake
               ${CMAKE_CURRENT_BINARY_DIR}/planegeo-config-version.cmake
         DESTINATION ${package_dir})
 
+# The file finds the tree from its own place, so that the tree may be moved.
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
+           BASE_DIRECTORY ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig OUTPUT_VARIABLE pc_to_prefix)
+set(pc_libdir "\${prefix}")
+set(pc_includedir "\${prefix}")
+cmake_path(APPEND pc_libdir ${CMAKE_INSTALL_LIBDIR})
+cmake_path(APPEND pc_includedir ${CMAKE_INSTALL_INCLUDEDIR})
 configure_file(cmake/planegeo.pc.in planegeo.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/planegeo.pc
         DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

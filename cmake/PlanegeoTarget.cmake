@@ -10,10 +10,17 @@ endfunction()
 # allowed; 32-bit x86 computes in SSE2 registers, not in the wider ones of the old unit.
 function(planegeo_arithmetic target)
   target_compile_options(${target} PRIVATE -ffp-contract=off -fno-fast-math -fno-math-errno)
-  if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(i[3-6]86|x86)$" OR CMAKE_CXX_FLAGS MATCHES "-m32")
+  if(CMAKE_SYSTEM_PROCESSOR MATCHES "86|AMD64" AND CMAKE_SIZEOF_VOID_P EQUAL 4)
     target_compile_options(${target} PRIVATE -msse2 -mfpmath=sse)
   endif()
 endfunction()
+
+# What a host in C must link beside the static library.
+if("c++" IN_LIST CMAKE_CXX_IMPLICIT_LINK_LIBRARIES)
+  set(planegeo_cxx_runtime c++)
+else()
+  set(planegeo_cxx_runtime stdc++)
+endif()
 
 # Turns the one list of exported names into a linker version script and a .def file.
 function(planegeo_export_files list_file map_file def_file)

@@ -39,8 +39,10 @@
 
 /* Define PLANEGEO_STATIC in a host that links the static library. */
 #if defined(_WIN32)
-#if defined(PLANEGEO_BUILD) || defined(PLANEGEO_STATIC)
+#if defined(PLANEGEO_STATIC)
 #define PLANEGEO_API
+#elif defined(PLANEGEO_BUILD)
+#define PLANEGEO_API __declspec(dllexport)
 #else
 #define PLANEGEO_API __declspec(dllimport)
 #endif
