@@ -2,7 +2,7 @@
 // compiled with the other tests and, without a standard library, for platforms of other layout
 // rules.
 
-#include <stddef.h>
+#include <stddef.h> // NOLINT(modernize-deprecated-headers): C's comes with the compiler
 
 #include "planegeo.h"
 
