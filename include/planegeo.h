@@ -920,7 +920,108 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_posel(const DTPOINT *center, double a, dou
 /** @} */
 
 /** @defgroup ellipseMeasure Ellipses: length and area
+ *  All of these read half the first axis from slot 0 and half the second from
+ *  slot 1 of ca_Simpson_getParmtbl(), never from a record: store them first.
  *  @{ */
+
+/**
+ * An integrand: writes its value at an angle in degrees and returns 0; any other
+ * code ends the integration, which returns it.
+ */
+typedef int32_t(PLANEGEO_CALL *PLANEGEO_INTEGRAND)(double deg, double *value);
+
+/**
+ * The integrand of arc length: with A and B the half axes of the parameter table,
+ * sqrt(B^2 cos^2 t + A^2 sin^2 t), the length per radian of the parameter.
+ *
+ * @param[in]  deg   parametric angle t
+ * @param[out] value drawing units
+ * @return always 0
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_lengelp(double deg, double *value);
+
+/**
+ * The integrand of sector area: with A and B the half axes of the parameter table,
+ * A^2 B^2 / (2 (B^2 cos^2 t + A^2 sin^2 t)), the area per radian of the polar angle.
+ *
+ * @param[in]  deg   polar angle t
+ * @param[out] value drawing units squared; NaN when an axis is zero and the angle
+ *                   lies along the other, or both are zero
+ * @return always 0
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_AreaElp(double deg, double *value);
+
+/**
+ * Integrates over a range of degrees, with respect to the angle in radians.
+ *
+ * The Simpson rule starts with an interval per degree (at least 4, an even count)
+ * and halves them until two sums differ by at most 1e-6, absolutely, or the
+ * interval falls below 0.001 degrees. A range below 0.004 degrees gives 0.
+ *
+ * @param[in]  integrand called at the lower limit, at the upper limit, then at all
+ *                       interior points of each pass in rising order; the library
+ *                       may evaluate its own integrands by other means
+ * @param[in]  lower,upper degrees
+ * @param[out] result    the integral; 0 unless the return value is 0
+ * @return 0 done; -1 lower exceeds upper (nothing is called); -2 not settled when
+ *         the interval count would pass 2^31 - 1: a range above 2^30 degrees, an
+ *         infinite or a NaN limit get there at once; else the integrand's code
+ * @see ca_Simpson2 for the inverse, ca_ElpLen for an elliptic arc
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_Simpson(PLANEGEO_INTEGRAND integrand, double lower,
+                                              double upper, double *result);
+
+/**
+ * Moves one limit of a range until the integral over it is within 1e-6 of a value.
+ *
+ * The limit moves by 10 degrees at first (by 5 if the range is too short) and by
+ * half as much after each change of direction. Each range is integrated as by
+ * ca_Simpson(); one whose lower limit has passed the upper counts as 0, so does
+ * one that did not settle.
+ *
+ * @param[in]     integrand   see ca_Simpson()
+ * @param[in,out] lower,upper degrees; only the moved one is written, and only when
+ *                            the value was found
+ * @param[in]     wanted      the integral to reach
+ * @param[in]     which       0 moves the lower limit, any other value the upper
+ * @return 0 found; -2 found, but a range on the way did not settle; -1 given up:
+ *         ten ranges in a row gave nothing or no change above 1e-6, the limit no
+ *         longer changes, or more than 2^28 samples have been spent (the range
+ *         then spans some 80 turns); else the integrand's code
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_Simpson2(PLANEGEO_INTEGRAND integrand, double *lower,
+                                               double *upper, double wanted, int32_t which);
+
+/**
+ * Measures an elliptic arc.
+ *
+ * The arc's angles are taken as the directions of its ends (see ca_ElpAngle()), and
+ * the speed is integrated between these numbers as if they were parameters: exact
+ * for whole, half and quarter turns and for circles. A span above 359.999999
+ * degrees is the whole turn, equal ends are an empty arc. The directions lie in
+ * [0, 360], so a whole turn is safe as (0, 360) only; see docs/behaviours.md.
+ *
+ * @param[in]  ellipse start, end and the ratio of the axes are read; the size comes
+ *                     from the parameter table
+ * @param[out] length  within about 1e-6; 0 for an arc below 0.004 degrees
+ * @return always 0
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_ElpLen(const DTELLIPSE *ellipse, double *length);
+
+/**
+ * Trims or extends an elliptic arc to a length, by moving one end.
+ *
+ * Unlike ca_ElpLen() this integrates between the parametric angles. The search is
+ * that of ca_Simpson2(); the range found is then brought to an end of at most 360,
+ * one above 359.999999 degrees to (0, 360), and of it the moved angle is stored.
+ *
+ * @param[in,out] ellipse start and end are read, the moved one is written; the half
+ *                        axes come from the parameter table
+ * @param[in]     wanted  length, drawing units, reached within 1e-6
+ * @param[in]     which   0 moves the start, any other value the end
+ * @return 0 done; -1 the search gave up, the record is untouched
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_ElpLen2(DTELLIPSE *ellipse, double wanted, int32_t which);
 
 /** @} */
 
@@ -930,7 +1031,60 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_posel(const DTPOINT *center, double a, dou
 /** @} */
 
 /** @defgroup ellipseDivision Ellipses: division into points
+ *  An elliptic arc from start to end, parametric degrees, is divided into n pieces
+ *  of equal length; division point k ends the k-th of them.
  *  @{ */
+
+/**
+ * Finds a division point to 0.001 degrees, from a table kept between calls.
+ *
+ * Meant to be asked for k = 1, 2, ..., n in turn. The first call measures the arc
+ * and notes the first multiple of 0.001 degrees at which each piece is full; the
+ * calls that follow read them; the call with k = n releases the table, and so does
+ * one with k > n. The table serves arcs whose centre and axes agree within 1e-6,
+ * rotation and angles within 1e-8, and whose n is equal: the piece length and the
+ * angle come from it, centre, axes and rotation from the call. Any other arc
+ * replaces it. A table is never shared: do not divide on two threads at once.
+ *
+ * @param[in]  center,a,b,rot the ellipse: full axis lengths, degrees
+ * @param[in]  angles start and end; a span below 0.004 degrees gives a length of 0
+ *                    and the end as every point
+ * @param[in]  n,k    number of pieces and of the point, 1 <= k <= n
+ * @param[out] out    the point
+ * @param[out] len    length of a piece
+ * @return 0 done; 1 k exceeds n or is below 1, or no memory, or n above 2^24; -1
+ *         start exceeds end (at every call); outputs are untouched in these cases.
+ *         -2 from the call that measures: the length does not settle, or the span
+ *         exceeds 360000 degrees; the length is 0 and every point the end
+ * @see ca_elpdn, which is coarser and keeps nothing
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_elpdn(const DTPOINT *center, double a, double b, double rot,
+                                             const double *angles, int32_t n, int32_t k,
+                                             DTPOINT *out, double *len);
+
+/**
+ * Finds a division point from the polyline through every whole degree of the arc.
+ *
+ * Only whole degrees from the start count: the arc beyond the last of them is left
+ * out of the length, and only the point k = n reaches the end. Within a degree the
+ * point is placed by a rule of its own, which is not the interpolation along the
+ * segment; it may be off by a degree.
+ *
+ * @param[in]  center,a,b,rot the ellipse: full axis lengths, degrees
+ * @param[in]  angles start and end, no more than 361 degrees apart
+ * @param[in]  n,k    number of pieces and of the point, 1 <= k <= n
+ * @param[out] out    the point; for k = n exactly the end of the arc; untouched
+ *                    when the result is 1
+ * @param[out] len    length of a piece; also written where the point lies beyond
+ *                    the polyline
+ * @return 0 done; 1 n or k below 1, start above end or more than 362 samples (len
+ *         is then untouched), or the point lies beyond the polyline: k exceeds n,
+ *         an arc below a degree with k < n, an ellipse of no size
+ * @see a2d_elpdn
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_elpdn(const DTPOINT *center, double a, double b, double rot,
+                                            const double *angles, int32_t n, int32_t k,
+                                            DTPOINT *out, double *len);
 
 /** @} */
 

@@ -75,6 +75,21 @@ inline constexpr double kWholeTurnAtZeroDeg = 1e-6;
 
 // Ellipses: length, area, division.
 
+/// Two passes of the Simpson rule agree (<=), so does an integral with the wanted one (<=).
+inline constexpr double kSettledIntegral = 1e-6;
+/// An integral is nothing, or no progress to the one before (<): ca_Simpson2.
+inline constexpr double kStalledIntegral = 1e-6;
+/// A step of the Simpson rule this short ends its refinement (<).
+inline constexpr double kSmallestStepDeg = 0.001;
+/// A span above it is the whole turn (>): ca_ElpLen, ca_ElpLen2.
+inline constexpr double kWholeTurnDeg = 359.999999;
+/// Centre, axes (<=) of the ellipse whose division is kept: a2d_elpdn.
+inline constexpr double kSameEllipseLength = 1e-6;
+/// Its rotation, start and end (<=): a2d_elpdn.
+inline constexpr double kSameEllipseDeg = 1e-8;
+/// A piece left over shorter than it (<) is lengthened by it: ca_elpdn.
+inline constexpr double kShortRestLength = 1e-6;
+
 // Ellipses: chains of arcs, extents.
 
 // Ellipses: intersections.
