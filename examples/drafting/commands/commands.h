@@ -1,0 +1,11 @@
+// The commands of the program: each adds itself to the command line.
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+namespace draft {
+
+void addIntersect(CLI::App &app);
+void addPlot(CLI::App &app);
+
+} // namespace draft

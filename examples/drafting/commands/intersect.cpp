@@ -1,0 +1,69 @@
+// draft intersect: every two entities that meet, and where.
+
+#include <iostream>
+#include <memory>
+
+#include "commands/commands.h"
+#include "commands/common.h"
+#include "output_file.h"
+#include "text.h"
+
+namespace draft {
+
+namespace {
+
+void printTable(const Drawing &drawing, const Crossings &crossings) {
+    const int decimals = decimalsFor(extentsOf(drawing));
+    using Align = Table::Align;
+    Table table({{"point", Align::right},
+                 {"x", Align::right},
+                 {"y", Align::right},
+                 {"first", Align::left},
+                 {"second", Align::left},
+                 {"", Align::left}});
+    for (std::size_t i = 0; i < crossings.found.size(); ++i) {
+        const Crossing &c = crossings.found[i];
+        table.add({std::to_string(i + 1), fixed(c.at.x, decimals), fixed(c.at.y, decimals),
+                   label(drawing, c.first), label(drawing, c.second),
+                   c.overlap ? "end of a common stretch" : ""});
+    }
+    std::cout << drawing.path << ": " << inventory(drawing) << "\n"
+              << layerOf(crossings).name << "\n";
+    if (!crossings.found.empty()) std::cout << "\n" << table.text();
+}
+
+void printJson(const Drawing &drawing, const Crossings &crossings) {
+    Json json = describe(drawing);
+    json["crossings"] = Json::array();
+    for (const Crossing &c : crossings.found) {
+        json["crossings"].push_back({{"x", c.at.x},
+                                     {"y", c.at.y},
+                                     {"first", describe(drawing, c.first)},
+                                     {"second", describe(drawing, c.second)},
+                                     {"overlap", c.overlap}});
+    }
+    print(json);
+}
+
+void run(const CommonOptions &options) {
+    const Drawing drawing = openDrawing(options.file);
+    const Crossings crossings = crossingsOf(drawing);
+    tellUnknown(crossings);
+    if (!options.output.empty()) writeFile(options.output, svgOf(drawing, {layerOf(crossings)}));
+    options.json ? printJson(drawing, crossings) : printTable(drawing, crossings);
+}
+
+} // namespace
+
+void addIntersect(CLI::App &app) {
+    const auto options = std::make_shared<CommonOptions>();
+    CLI::App *command =
+        app.add_subcommand("intersect", "All pairs of entities that meet, with their points");
+    addFileArgument(*command, *options);
+    addJsonFlag(*command, *options);
+    command->add_option("-o,--output", options->output, "also draw them into this SVG file");
+    command->footer("Example: draft intersect floor-plan.dxf -o crossings.svg");
+    command->callback([options] { run(*options); });
+}
+
+} // namespace draft

@@ -1,0 +1,23 @@
+// All places of a drawing where two of its entities meet.
+#pragma once
+
+#include <vector>
+
+#include "drawing.h"
+
+namespace draft {
+
+struct Crossing {
+    std::size_t first, second; ///< places in Drawing::entities, first < second
+    DTPOINT at;
+    bool overlap; ///< an end of a stretch that both share
+};
+
+struct Crossings {
+    std::vector<Crossing> found; ///< by first, then by second
+    Tally unknown;               ///< pairs near each other that the library cannot answer
+};
+
+Crossings crossingsOf(const Drawing &drawing);
+
+} // namespace draft

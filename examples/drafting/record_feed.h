@@ -1,0 +1,61 @@
+// The records that dxflib shall see, as the stream that it reads from.
+#pragma once
+
+#include <exception>
+#include <map>
+#include <streambuf>
+#include <string>
+#include <string_view>
+
+#include "drawing.h"
+#include "dxf_records.h"
+
+namespace draft {
+
+/// Blocks are known by their name in capitals; the drawing itself by the empty name.
+using TallyByBlock = std::map<std::string, Tally>;
+
+std::string blockKey(std::string_view name);
+
+/// Passes on the entities and blocks that the program understands, counts the others and
+/// repairs what dxflib takes on trust: the number of vertices, the order of bulges, the length
+/// of lines. A failure ends the stream; whoever has read it asks for it by rethrow().
+class RecordFeed : public std::streambuf {
+  public:
+    RecordFeed(std::string_view text, TallyByBlock &leftOut);
+
+    bool sawEntities() const { return sawEntities_; }
+    void rethrow() const;
+
+  protected:
+    int_type underflow() override;
+
+  private:
+    void take(const Record &record);
+    void takeSection(const Record &record);
+    void takeBlock(const Record &record);
+    void takeEntity(const Record &record);
+    void takeVertex(const Record &record);
+    /// Why an entity is not understood, as its name in the tally; empty when it is.
+    std::string reasonToLeaveOut(const Record &record) const;
+    void feed(const Record &record);
+    void feedLwPolyline(const Record &record);
+    void leaveOut(const std::string &kind) { ++leftOut_[block_][kind]; }
+
+    enum class Section { other, blocks, entities };
+    enum class Holder { none, block, drawing };
+    enum class Polyline { none, fed, leftOut };
+
+    RecordScanner scanner_;
+    TallyByBlock &leftOut_;
+    Section section_ = Section::other;
+    Holder holder_ = Holder::none; ///< of the entities that follow
+    Polyline polyline_ = Polyline::none;
+    bool sawEntities_ = false;
+    std::string block_;
+    Record record_;
+    std::string chunk_;
+    std::exception_ptr failure_; ///< dxflib would leak memory if it were thrown through it
+};
+
+} // namespace draft

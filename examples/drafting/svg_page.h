@@ -1,0 +1,47 @@
+// The page of a picture: where the plane lies on it, its grid and its scale.
+#pragma once
+
+#include <string>
+
+#include "drawing.h"
+
+namespace draft {
+
+/// Maps the plane onto the page, y upwards; page units are pixels at the usual size.
+class Page {
+  public:
+    explicit Page(const Box &extents);
+
+    double width() const { return right() + kMargin; }
+    double height() const { return bottom() + kFooter; }
+    double left() const { return kMargin + kTickRoom; }
+    double right() const { return left() + areaWidth_; }
+    double top() const { return kHeader; }
+    double bottom() const { return top() + areaHeight_; }
+
+    double scale() const { return scale_; }
+    double x(double planeX) const { return left() + (planeX - originX_) * scale_; }
+    double y(double planeY) const { return bottom() - (planeY - originY_) * scale_; }
+
+    /// Lines at round coordinates, with their values beside.
+    std::string grid() const;
+    /// A bar of a round length, its right end at the right border.
+    std::string scaleBar(double atY) const;
+
+  private:
+    static constexpr double kMargin = 28.0;
+    static constexpr double kTickRoom = 34.0;
+    static constexpr double kHeader = 64.0;
+    static constexpr double kFooter = 84.0;
+
+    double areaWidth_ = 0.0, areaHeight_ = 0.0;
+    double scale_ = 1.0;
+    double originX_ = 0.0, originY_ = 0.0; ///< of the plane, at the left bottom of the area
+};
+
+/// A length on the page.
+std::string pixels(double value);
+/// Text inside an element or attribute; what is not UTF-8 becomes a question mark.
+std::string xmlText(const std::string &text);
+
+} // namespace draft

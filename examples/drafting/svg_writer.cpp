@@ -1,0 +1,221 @@
+#include "svg_writer.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <filesystem>
+
+#include "svg_page.h"
+#include "text.h"
+
+namespace draft {
+
+namespace {
+
+/// Entities and results have the colours of this sheet, by class.
+constexpr const char *kStyle = R"(<style>
+text { font-family: "DejaVu Sans", "Helvetica Neue", Arial, sans-serif; fill: #1f2933; }
+.title { font-size: 19px; font-weight: bold; }
+.note { font-size: 12px; fill: #616e7c; }
+.key { font-size: 12.5px; }
+.tick { font-size: 10px; fill: #7b8794; }
+.paper { fill: #f7f8fa; }
+.area { fill: #ffffff; stroke: #cbd2d9; }
+.grid { fill: none; stroke: #e9edf1; }
+.bar { fill: none; stroke: #3e4c59; stroke-width: 1.5; }
+.shape { fill: none; stroke-width: 1.5; stroke-linecap: round; stroke-linejoin: round; }
+.lines { stroke: #323f4b; }
+.arcs { stroke: #0b69a3; }
+.ellipses { stroke: #0c8a6d; }
+.result { fill: none; stroke-width: 1.5; }
+.point { stroke: #ffffff; stroke-width: 1.2; }
+</style>
+)";
+
+constexpr std::array<const char *, 5> kResultColors = {"#d64545", "#e07b00", "#8719e0", "#c2258c",
+                                                       "#4c63b6"};
+
+enum class Group { lines, arcs, ellipses };
+constexpr std::size_t kGroupCount = 3;
+constexpr std::array<const char *, kGroupCount> kGroupClass = {"lines", "arcs", "ellipses"};
+
+/// Above this many entities a picture has no names on them, for the viewer's sake.
+constexpr std::size_t kMostNamed = 5000;
+
+Group groupOf(Kind kind) {
+    switch (kind) {
+    case Kind::line:
+        return Group::lines;
+    case Kind::circle:
+    case Kind::arc:
+        return Group::arcs;
+    default:
+        return Group::ellipses;
+    }
+}
+
+/// The outline of a shape on the page.
+class Outline {
+  public:
+    explicit Outline(const Page &page) : page_(page) {}
+
+    std::string operator()(const DTLINE &line) const {
+        return "M" + at({line.x1, line.y1}) + "L" + at({line.x2, line.y2});
+    }
+    std::string operator()(const DTARC &arc) const {
+        return turn(arc.start, arc.end, arc.r, arc.r, 0.0, [&](double deg) {
+            return DTPOINT{arc.cx + arc.r * cosd(deg), arc.cy + arc.r * sind(deg)};
+        });
+    }
+    std::string operator()(const DTELLIPSE &e) const {
+        const DTPOINT center = {e.cx, e.cy};
+        return turn(e.start, e.end, e.a / 2.0, e.b / 2.0, e.rot, [&](double deg) {
+            const DTPOINT local = {e.a / 2.0 * cosd(deg), e.b / 2.0 * sind(deg)};
+            DTPOINT point;
+            pnt_formd(&local, &center, e.rot, &point);
+            return point;
+        });
+    }
+
+  private:
+    std::string at(DTPOINT p) const { return pixels(page_.x(p.x)) + " " + pixels(page_.y(p.y)); }
+
+    /// In pieces of at most a third of a turn, so that no piece's ends fall together and none
+    /// could be taken for the rest of its turn.
+    template <typename PointAt>
+    std::string turn(double start, double end, double first, double second, double rot,
+                     PointAt pointAt) const {
+        constexpr double kPiece = 120.0;
+        const int pieces = std::max(1, static_cast<int>(std::ceil((end - start) / kPiece)));
+        const std::string radii = "A" + pixels(first * page_.scale()) + " " +
+                                  pixels(second * page_.scale()) + " " + pixels(-rot) + " 0 0 ";
+        std::string path = "M" + at(pointAt(start));
+        for (int i = 1; i <= pieces; ++i)
+            path += radii + at(pointAt(start + (end - start) * i / pieces));
+        return path;
+    }
+
+    const Page &page_;
+};
+
+std::string element(const std::string &outline, const char *attributes, const std::string &title) {
+    std::string text = "<path " + std::string(attributes) + " d=\"" + outline + "\"";
+    return text + (title.empty() ? "/>\n" : "><title>" + xmlText(title) + "</title></path>\n");
+}
+
+std::string entities(const Drawing &drawing, const Page &page) {
+    std::array<std::string, kGroupCount> groups;
+    const bool named = drawing.entities.size() <= kMostNamed;
+    const Outline outline(page);
+    for (std::size_t i = 0; i < drawing.entities.size(); ++i) {
+        const Entity &entity = drawing.entities[i];
+        const std::string path = std::visit(outline, entity.shape);
+        std::string &group = groups[static_cast<std::size_t>(groupOf(kindOf(entity.shape)))];
+        group += named ? element(path, "",
+                                 label(drawing, i) + " on layer " + drawing.layers[entity.layer])
+                       : path;
+    }
+    std::string text;
+    for (std::size_t i = 0; i < kGroupCount; ++i) {
+        const std::string css = std::string("class=\"shape ") + kGroupClass[i] + "\"";
+        if (groups[i].empty()) continue;
+        text += named ? "<g " + css + ">\n" + groups[i] + "</g>\n"
+                      : element(groups[i], css.c_str(), "");
+    }
+    return text;
+}
+
+double pointRadius(std::size_t count) { return count <= 300 ? 4.0 : count <= 3000 ? 2.5 : 1.5; }
+
+std::string resultLayer(const ResultLayer &layer, const char *color, const Page &page) {
+    std::string text = "<g class=\"result\" stroke=\"" + std::string(color) + "\">\n";
+    for (const Shape &shape : layer.shapes)
+        text += element(std::visit(Outline(page), shape), "", "");
+    text += "</g>\n<g class=\"point\" fill=\"" + std::string(color) + "\">\n";
+    const std::string radius = pixels(pointRadius(layer.points.size()));
+    for (const DTPOINT p : layer.points) {
+        text += "<circle cx=\"" + pixels(page.x(p.x)) + "\" cy=\"" + pixels(page.y(p.y)) +
+                "\" r=\"" + radius + "\"/>\n";
+    }
+    return text + "</g>\n";
+}
+
+/// Places the keys of the legend one after the other.
+class Legend {
+  public:
+    Legend(double x, double y) : x_(x), y_(y) {}
+
+    void addLine(const std::string &css, const std::string &text) {
+        text_ +=
+            "<path class=\"" + css + "\" d=\"M" + pixels(x_) + " " + pixels(y_ - 4.0) + "h22\"/>";
+        addText(text);
+    }
+    void addPoint(const std::string &color, const std::string &text) {
+        text_ += "<circle class=\"point\" fill=\"" + color + "\" cx=\"" + pixels(x_ + 11.0) +
+                 "\" cy=\"" + pixels(y_ - 4.0) + "\" r=\"4\"/>";
+        addText(text);
+    }
+    const std::string &text() const { return text_; }
+
+  private:
+    void addText(const std::string &text) {
+        constexpr double kSwatch = 29.0;
+        constexpr double kPerCharacter = 7.6;
+        constexpr double kGap = 24.0;
+        text_ += "<text class=\"key\" x=\"" + pixels(x_ + kSwatch) + "\" y=\"" + pixels(y_) +
+                 "\">" + xmlText(text) + "</text>\n";
+        x_ += kSwatch + kPerCharacter * static_cast<double>(text.size()) + kGap;
+    }
+
+    double x_, y_;
+    std::string text_;
+};
+
+std::string legend(const Drawing &drawing, const std::vector<ResultLayer> &results,
+                   const Page &page) {
+    constexpr std::array<const char *, kGroupCount> kNames = {"lines", "circles and arcs",
+                                                              "ellipses"};
+    std::array<std::size_t, kGroupCount> counts{};
+    for (const Entity &entity : drawing.entities)
+        ++counts[static_cast<std::size_t>(groupOf(kindOf(entity.shape)))];
+    Legend keys(page.left(), page.bottom() + 46.0);
+    for (std::size_t i = 0; i < kGroupCount; ++i) {
+        if (counts[i] > 0) keys.addLine(std::string("shape ") + kGroupClass[i], kNames[i]);
+    }
+    Legend found(page.left(), page.bottom() + 68.0);
+    for (std::size_t i = 0; i < results.size(); ++i)
+        found.addPoint(kResultColors[i % kResultColors.size()], results[i].name);
+    return keys.text() + found.text();
+}
+
+std::string heading(const Drawing &drawing, const Page &page) {
+    const std::string name = std::filesystem::path(drawing.path).filename().string();
+    const std::string x = pixels(page.left());
+    return "<text class=\"title\" x=\"" + x + "\" y=\"32\">" + xmlText(name) + "</text>\n" +
+           "<text class=\"note\" x=\"" + x + "\" y=\"51\">" + xmlText(inventory(drawing)) +
+           "</text>\n";
+}
+
+} // namespace
+
+std::string svgOf(const Drawing &drawing, const std::vector<ResultLayer> &results) {
+    const Page page(extentsOf(drawing));
+    const std::string width = pixels(page.width());
+    const std::string height = pixels(page.height());
+    const std::string area = "x=\"" + pixels(page.left()) + "\" y=\"" + pixels(page.top()) +
+                             "\" width=\"" + pixels(page.right() - page.left()) + "\" height=\"" +
+                             pixels(page.bottom() - page.top()) + "\"";
+    std::string svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 " + width + " " +
+                      height + "\" width=\"" + width + "\" height=\"" + height + "\">\n";
+    svg += kStyle;
+    svg += "<clipPath id=\"area\"><rect " + area + "/></clipPath>\n";
+    svg += "<rect class=\"paper\" width=\"" + width + "\" height=\"" + height + "\"/>\n";
+    svg += "<rect class=\"area\" " + area + "/>\n" + page.grid() + heading(drawing, page);
+    svg += "<g clip-path=\"url(#area)\">\n" + entities(drawing, page);
+    for (std::size_t i = 0; i < results.size(); ++i)
+        svg += resultLayer(results[i], kResultColors[i % kResultColors.size()], page);
+    svg += "</g>\n" + legend(drawing, results, page) + page.scaleBar(page.bottom() + 56.0);
+    return svg + "</svg>\n";
+}
+
+} // namespace draft

@@ -1,0 +1,20 @@
+// A drawing and results on it as a picture.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "drawing.h"
+
+namespace draft {
+
+/// One kind of result: its points and shapes get one colour and one line of the legend.
+struct ResultLayer {
+    std::string name; ///< with its count: "31 crossings"
+    std::vector<DTPOINT> points;
+    std::vector<Shape> shapes;
+};
+
+std::string svgOf(const Drawing &drawing, const std::vector<ResultLayer> &results);
+
+} // namespace draft
