@@ -36,9 +36,9 @@ by_cmake() { # DIRECTORY LANGUAGES
 
 by_pkg_config() { # COMPILER SOURCE [static]
     local flags
-    step "by pkg-config, $2 ${3:-shared}"
+    step "by pkg-config, $(basename "$2") ${3:-shared}"
     read -ra flags <<<"$(pkg-config ${3:+--static} --cflags --libs planegeo)"
-    "$1" ${3:+-static} "$here/$2" "${flags[@]}" -o "$work/host.exe"
+    "$1" ${3:+-static} "$2" "${flags[@]}" -o "$work/host.exe"
     ${EMULATOR:-} "$work/host.exe" "$version"
 }
 
@@ -61,8 +61,13 @@ by_cmake c "C"
 by_cmake cxx "C;CXX"
 
 [ "$(pkg-config --modversion planegeo)" = "$version" ]
-by_pkg_config "$cc" host.c
-by_pkg_config "$cc" host.c static
-by_pkg_config "$cxx" host.cpp static
+by_pkg_config "$cc" "$here/host.c"
+by_pkg_config "$cc" "$here/host.c" static
+by_pkg_config "$cxx" "$here/host.cpp" static
 # A shared C++ runtime is not at hand where an emulator runs the programs.
-[ -n "${EMULATOR:-}" ] || by_pkg_config "$cxx" host.cpp
+[ -n "${EMULATOR:-}" ] || by_pkg_config "$cxx" "$here/host.cpp"
+
+step "the example of README.md prints what is said there"
+block() { sed -n "/^\`\`\`$1\$/,/^\`\`\`\$/p" "$here/../../README.md" | sed '1d;$d'; }
+block c >"$work/readme.c"
+by_pkg_config "$cc" "$work/readme.c" | grep -v '^--' | tr -d '\r' | diff <(block text) -
