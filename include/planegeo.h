@@ -917,6 +917,77 @@ PLANEGEO_API int32_t PLANEGEO_CALL pin_chk(const DTPOINT *center, double rot, co
 PLANEGEO_API int32_t PLANEGEO_CALL ca_posel(const DTPOINT *center, double a, double b, double rot,
                                             const DTPOINT *point, uint16_t *position);
 
+/**
+ * Scales an ellipse along y: its image under (x, y) -> (x, k y).
+ *
+ * The result's first axis is never the shorter one; its rotation lies in [0, 450], its
+ * arc angles are those of a2d_elpdeg() for the images of the ends, not reduced. A
+ * negative @p k mirrors, and the arc then runs from its end to its start.
+ *
+ * @param[in]  ellipse the ellipse
+ * @param[in]  k       the factor
+ * @param[out] result  may be @p ellipse; its attribute word is not written
+ * @return 0 done; -1 when an axis of @p ellipse is not longer than errdist (nothing is
+ *         written) or one of the image is shorter than errdist (centre, axes and
+ *         rotation are written, start and end untouched)
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_elp_trans(const DTELLIPSE *ellipse, double k,
+                                                 DTELLIPSE *result);
+
+/**
+ * Turns an ellipse about a point.
+ *
+ * @param[in]  center,a,b,rot,angles the ellipse
+ * @param[in]  pivot the point
+ * @param[in]  angle degrees, anticlockwise
+ * @param[out] out_center,out_a,out_b,out_rot,out_angles the turned ellipse; axes and
+ *                   angles are unchanged, and the rotation is moved by one turn at most
+ *                   towards [0, 360]
+ * @return always 0
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_rvelp(const DTPOINT *center, double a, double b, double rot,
+                                            const double *angles, const DTPOINT *pivot,
+                                            double angle, DTPOINT *out_center, double *out_a,
+                                            double *out_b, double *out_rot, double *out_angles);
+
+/**
+ * Mirrors an ellipse in a line.
+ *
+ * @param[in]  center,a,b,rot,angles the ellipse
+ * @param[in]  line_p1,line_p2 two points of the line; equal points are not checked for
+ *                             and give a centre and rotation that are not finite
+ * @param[out] out_center,out_a,out_b the mirrored centre and the same axes
+ * @param[out] out_rot    direction of the mirrored first axis by the rule of ca_vcrad(),
+ *                        [0, 360]
+ * @param[out] out_angles 360 less the old end, 360 less the old start; both lowered by
+ *                        360 where one exceeds 360.00000001
+ * @return always 0
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_vmelp(const DTPOINT *center, double a, double b, double rot,
+                                            const double *angles, const DTPOINT *line_p1,
+                                            const DTPOINT *line_p2, DTPOINT *out_center,
+                                            double *out_a, double *out_b, double *out_rot,
+                                            double *out_angles);
+
+/**
+ * Scales an ellipse about its centre until it meets a point.
+ *
+ * The ellipse is measured along the direction to the point mirrored in its first axis
+ * (along the horizontal where the point's x is within 1e-8 of the centre's): it meets
+ * the point when it is a circle, the point lies level with the centre, or the rotation is
+ * a multiple of 90 and the point not straight above or below the centre.
+ *
+ * @param[in]  center,a,b,rot,angles the ellipse
+ * @param[in]  point the point; at the centre it gives zero axes
+ * @param[out] out_a,out_b the scaled axes; not finite when an axis is zero
+ * @param[out] out_center,out_rot,out_angles as given
+ * @return always 0
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_samel(const DTPOINT *center, double a, double b, double rot,
+                                            const double *angles, const DTPOINT *point,
+                                            DTPOINT *out_center, double *out_a, double *out_b,
+                                            double *out_rot, double *out_angles);
+
 /** @} */
 
 /** @defgroup ellipseMeasure Ellipses: length and area
@@ -1090,6 +1161,67 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_elpdn(const DTPOINT *center, double a, dou
 
 /** @defgroup ellipseExtents Ellipses: extents and points of given tangent
  *  @{ */
+
+/**
+ * Finds the two points of a whole ellipse with a tangent of a given direction.
+ *
+ * @param[in]  center,a,b,rot the ellipse
+ * @param[in]  direction of the tangent, degrees; whole turns are taken off
+ * @param[out] out1 the point on the side to which the second axis points, or the end of
+ *                  the first axis when the tangent is parallel to the second within 1e-8
+ * @param[out] out2 the point opposite
+ * @return always 1, though it never fails
+ * @see ang_pnt for an arc
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_elaln(const DTPOINT *center, double a, double b, double rot,
+                                            double direction, DTPOINT *out1, DTPOINT *out2);
+
+/**
+ * Finds the points of an elliptic arc with a tangent of a given direction; a point
+ * outside the arc gives way to the nearer end of the arc, to the end rather than the
+ * start where both are as near.
+ *
+ * Whether a point is outside is decided by polar directions, as in pin_chk(): 0 and 360
+ * are the whole turn, while other angles 360 apart, which name one direction, may hold
+ * that direction alone.
+ *
+ * @param[in]  center,a,b,rot,angles the arc; @p rot moves one turn at most towards 0
+ * @param[in]  direction of the tangent, degrees; moves one turn at most towards [0, 360]
+ * @param[out] out1,out2 the points, before they give way in the order of ca_elaln()
+ * @return always 0
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ang_pnt(const DTPOINT *center, double a, double b, double rot,
+                                           const double *angles, double direction, DTPOINT *out1,
+                                           DTPOINT *out2);
+
+/**
+ * Finds the box around an elliptic arc, parallel to the axes of the plane.
+ *
+ * It is the box of the four points that ang_pnt() finds for the directions 90 and 0.
+ * An end of the arc counts only where it took the place of such a point: a box may be
+ * smaller than the arc.
+ *
+ * @param[in]  center,a,b,rot,angles the arc
+ * @param[out] lower,upper lower left and upper right corner; both (0, 0) when the
+ *                         result is 1
+ * @return 0 done; 1 when start and end differ by less than 1e-6 (a whole ellipse is to
+ *         be given as a span of 360)
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_elamn(const DTPOINT *center, double a, double b, double rot,
+                                            const double *angles, DTPOINT *lower, DTPOINT *upper);
+
+/**
+ * As ca_elamn(), with the points that make the box.
+ *
+ * @param[in]  center,a,b,rot,angles the arc
+ * @param[out] lower,upper as in ca_elamn()
+ * @param[out] extremes    four points: the two with a tangent along y, then the two with
+ *                         one along x; untouched when the result is 1
+ * @return as ca_elamn()
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_elpmn(const DTPOINT *center, double a, double b, double rot,
+                                            const double *angles, DTPOINT *lower, DTPOINT *upper,
+                                            DTPOINT *extremes);
 
 /** @} */
 

@@ -72,6 +72,14 @@ inline constexpr double kPolarSlackDeg = 1e-8;
 inline constexpr double kPolarMaxDeg = 360.00000001;
 /// A polar range whose ends are both this near to 0 is the whole turn (<): pin_chk.
 inline constexpr double kWholeTurnAtZeroDeg = 1e-6;
+/// A new rotation below its negative is raised by a turn, once (<): ca_rvelp.
+inline constexpr double kRotationSlackDeg = 1e-8;
+/// A new rotation or mirrored angle above it is lowered by a turn, once (>): ca_rvelp, ca_vmelp.
+inline constexpr double kRotationMaxDeg = 360.00000001;
+/// A rotation below it leaves the first axis along x (<): ca_vmelp.
+inline constexpr double kMirroredTurnDeg = 1e-8;
+/// Abscissas this close give no slope (<): ca_samel.
+inline constexpr double kSlopeVertical = 1e-8;
 
 // Ellipses: length, area, division.
 
@@ -91,6 +99,15 @@ inline constexpr double kSameEllipseDeg = 1e-8;
 inline constexpr double kShortRestLength = 1e-6;
 
 // Ellipses: chains of arcs, extents.
+
+/// A direction below its negative is raised by a turn (<): ca_elaln, ang_pnt.
+inline constexpr double kDirectionBelowZeroDeg = 1e-8;
+/// A direction above it is lowered by a turn (>): ca_elaln, ang_pnt.
+inline constexpr double kDirectionMaxDeg = 360.00000001;
+/// A tangent direction along an axis (<): ca_elaln, ang_pnt.
+inline constexpr double kTangentAlongAxisDeg = 1e-8;
+/// Start and end of an arc that has no extents (<): ca_elamn, ca_elpmn.
+inline constexpr double kArcWithoutSpanDeg = 1e-6;
 
 // Ellipses: intersections.
 

@@ -24,19 +24,25 @@ Vec2 pointAtPolar(double halfFirst, double halfSecond, double polarDeg) {
     return {rho * polar.c, rho * polar.s};
 }
 
-/// Rytz: u turned clockwise by a quarter makes with v a pair whose half sum and half
-/// difference have the half sum and half difference of the semi-axes as lengths.
+/// v turned by a quarter clockwise.
+constexpr Vec2 clockwiseNormal(Vec2 v) { return {v.y, -v.x}; }
+
+/// Rytz: u turned clockwise by a quarter makes with v a pair whose half sum and half difference
+/// have the half sum and half difference of the semi-axes as lengths, m and n.
 EllipseAxes axesByRytz(Vec2 u, Vec2 v) {
-    const Vec2 turned = {u.y, -u.x};
-    const Vec2 middle = (v + turned) * 0.5;
-    const Vec2 toV = v - middle;
-    const double m = plainLength(middle);
-    const double n = plainLength(toV);
-    // Half the second axis is |n - m|; their product with the half first one, |n - m| (n + m), is
-    // the parallelogram of u and v, which loses nothing when the ellipse is flat.
-    const double halfFirst = m + n;
-    const double halfSecond = std::min(std::fabs(cross(u, v)) / halfFirst, halfFirst);
-    double rotation = directionDeg(middle + toV * (m / n));
+    const Vec2 w = clockwiseNormal(u);
+    const double halfFirst = plainLength((v + w) * 0.5) + plainLength((v - w) * 0.5);
+    // (m + n)(n - m) = cross(u, v): the second axis loses no digits when the ellipse is flat.
+    const double area = cross(u, v);
+    const double halfSecond = std::min(std::fabs(area) / halfFirst, halfFirst);
+    // v + q w points along the first axis, q being the signed ratio of the axes. So does
+    // u - q z with z = v turned likewise, up to the sign of dot(u, v); the longer of u and v
+    // keeps the more digits.
+    const double q = area / (halfFirst * halfFirst);
+    const Vec2 alongFirst = dot(v, v) >= dot(u, u)
+                                ? v + q * w
+                                : std::copysign(1.0, dot(u, v)) * (u - q * clockwiseNormal(v));
+    double rotation = directionDeg(alongFirst);
     rotation -= 360.0 * std::floor(rotation / 360.0);
     return {2.0 * halfFirst, 2.0 * halfSecond, rotation};
 }

@@ -10,7 +10,7 @@
 
 namespace planegeo {
 
-double focalExcess(Vec2 point, const EllipseFrame &frame, double rotationDeg) {
+FocalSum focalSum(Vec2 point, const EllipseFrame &frame, double rotationDeg) {
     const double a = frame.halfFirst;
     const double b = frame.halfSecond;
     const bool firstIsLonger = a >= b;
@@ -19,8 +19,8 @@ double focalExcess(Vec2 point, const EllipseFrame &frame, double rotationDeg) {
     const Vec2 local = firstIsLonger ? Vec2{c, 0.0} : Vec2{0.0, c};
     const Vec2 focus = std::fabs(rotationDeg) >= kFociTurnDeg ? frame.turn.apply(local) : local;
     const Vec2 offset = point - frame.center;
-    return plainLength(offset - focus) + plainLength(offset + focus) -
-           2.0 * (firstIsLonger ? a : b);
+    return {plainLength(offset - focus) + plainLength(offset + focus),
+            2.0 * (firstIsLonger ? a : b)};
 }
 
 bool inPolarRange(AngleRange range, double directionDeg) {
@@ -41,18 +41,30 @@ bool inPolarRange(AngleRange range, double directionDeg) {
     return !(theta < first || theta > end + kPolarSlackDeg); // a NaN passes
 }
 
+namespace {
+
+/// Polar angle of an arc's end, by pi and 180 and not by the degree constants on purpose: where
+/// start and end are a turn apart the last bit decides which of them is the greater.
+double polarEndDeg(const EllipseFrame &frame, double parameterDeg) {
+    const Rotation parameter = Rotation::ofRadians(parameterDeg * kPi / 180.0);
+    const Vec2 local = {frame.halfFirst * parameter.c, frame.halfSecond * parameter.s};
+    return snappedDirectionRad(local) * 180.0 / kPi;
+}
+
+} // namespace
+
 OnEllipseArc onEllipseArc(Vec2 point, const EllipseFrame &frame, double rotationDeg,
                           AngleRange parameters) {
     if (2.0 * frame.halfFirst <= kAxisTooShort || 2.0 * frame.halfSecond <= kAxisTooShort) {
         return OnEllipseArc::axisTooShort;
     }
-    if (std::fabs(focalExcess(point, frame, rotationDeg)) >= kFocalSumSlack) {
+    if (focalSum(point, frame, rotationDeg).deviation() >= kFocalSumSlack) {
         return OnEllipseArc::no;
     }
-    const AngleRange polar = {snappedPolarDeg(frame, parameters.start),
-                              snappedPolarDeg(frame, parameters.end)};
-    const double direction = snappedDirectionRad(point - frame.center) * kDegPerRad - rotationDeg;
-    return inPolarRange(polar, direction) ? OnEllipseArc::yes : OnEllipseArc::no;
+    const AngleRange polar = {polarEndDeg(frame, parameters.start),
+                              polarEndDeg(frame, parameters.end)};
+    const double direction = snappedDirectionRad(point - frame.center) * kDegPerRad;
+    return inPolarRange(polar, direction - rotationDeg) ? OnEllipseArc::yes : OnEllipseArc::no;
 }
 
 } // namespace planegeo
@@ -142,8 +154,8 @@ int32_t ca_posel(const DTPOINT *center, double a, double b, double rot, const DT
     const Vec2 p = load(point);
     *position = 0;
     if (a <= kAxisTooShort || b <= kAxisTooShort) return -1;
-    const double excess = focalExcess(p, frame, rot);
-    if (!(std::fabs(excess) < kFocalSumSlack)) *position = excess >= 0.0 ? 1 : 65535;
+    const FocalSum focal = focalSum(p, frame, rot);
+    if (!(focal.deviation() < kFocalSumSlack)) *position = focal.isOutside() ? 1 : 65535;
     return 0;
 }
 

@@ -8,9 +8,17 @@
 
 namespace planegeo {
 
-/// Sum of the distances of a point to the two foci, less the length of the longer axis: zero on
-/// the curve, positive outside. For positive axes.
-double focalExcess(Vec2 point, const EllipseFrame &frame, double rotationDeg);
+/// Sum of the distances of a point to the two foci, and the length of the longer axis: the sum
+/// is that length on the curve, more outside, less inside. For positive axes.
+struct FocalSum {
+    double sum;
+    double longAxis;
+
+    double deviation() const { return std::fabs(longAxis - sum); }
+    bool isOutside() const { return sum >= longAxis; }
+};
+
+FocalSum focalSum(Vec2 point, const EllipseFrame &frame, double rotationDeg);
 
 /// Whether a polar range holds a direction; both are measured from the same axis and not
 /// reduced. The slack is kPolarSlackDeg; an end below 0 is meant only where the start is too.
