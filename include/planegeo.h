@@ -625,12 +625,232 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_ins2c(const DTPOINT *c1, const DTPOINT *c2
 /** @} */
 
 /** @defgroup arcs Arcs: construction and queries
+ *  Which angles make a full circle differs: each function says it.
  *  @{ */
+
+/**
+ * Finds the arc that runs from @p p1 by @p p2 to @p p3.
+ *
+ * The angles always run anticlockwise: points that turn clockwise give the arc
+ * from p3 to p1. The points make no arc when two are nearer than errdist, or when
+ * the sines of all three angles between their sides are below 0.0001.
+ *
+ * @param[in]  p1,p2,p3 start, a point on the arc, end
+ * @param[out] center,r the circle; untouched when the result is 1
+ * @param[out] angles   start and end, degrees, each in [0, 360], the start above the
+ *                      end where the arc crosses 0; (0, 0) when the result is 1
+ * @return 0 done; 1 no arc
+ * @see ca_arcan to normalise the angles
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_arc3p(const DTPOINT *p1, const DTPOINT *p2, const DTPOINT *p3,
+                                            DTPOINT *center, double *r, double *angles);
+
+/**
+ * Finds the arc over a chord whose height is a multiple of the chord's length.
+ *
+ * @param[in]  dir      0 the arc lies left of the direction from the first to the
+ *                      second point; every other value right of it
+ * @param[in]  ratio    height over chord; 0.5 is a half circle, a negative value
+ *                      changes the side; below 1e-6 in magnitude there is no arc
+ * @param[in]  x1,y1,x2,y2 first and second end of the chord, 0.003 units or longer;
+ *                      nor may the middle of the arc be nearer than 0.0015 to an end
+ * @param[out] center,r the circle; untouched when the result is 1
+ * @param[out] angles   start and end, degrees, as ca_arcan() leaves them. When the
+ *                      result is 1: untouched if a limit above is the reason,
+ *                      (0, 0) if ca_arc3p() finds no arc
+ * @return 0 done; 1 no arc
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_arc2pratio(int32_t dir, double ratio, double x1, double y1,
+                                                 double x2, double y2, DTPOINT *center, double *r,
+                                                 double *angles);
+
+/**
+ * Normalises the angles of an arc in place, keeping 360.
+ *
+ * Ends more than 359.999999 apart, as given or afterwards, become (0, 360): so
+ * does (700, 10). Otherwise each is brought into [0, 360], an end below its start
+ * is raised by a turn, and a range that ends above 360 is lowered by one: (270, 90)
+ * becomes (-90, 90). Equal angles stay an arc without extent.
+ *
+ * @param[in,out] start,end degrees; beyond 2^56 by the exact remainder, and two
+ *                infinities of one sign become NaN
+ * @return always 0
+ * @see a2d_StdSedeg, for which equal angles are the full circle
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_arcan(double *start, double *end);
+
+/**
+ * Finds the ends of an arc whose angles are radians.
+ *
+ * @param[in]  center,r the circle
+ * @param[in]  angles   start and end in radians
+ * @param[out] pstart,pend the ends
+ * @return always 0
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_arccd(const DTPOINT *center, double r, const double *angles,
+                                            DTPOINT *pstart, DTPOINT *pend);
+
+/**
+ * Finds the box around an arc.
+ *
+ * Besides the ends, the axis directions at -360, -270, ... 360 count that lie
+ * between them as given, without slack: normalise with a2d_StdSedeg() first. Of a
+ * range with start above end, or of equal ends, only the ends count.
+ *
+ * @param[in]  center,r  the circle
+ * @param[in]  start,end degrees, within [-360, 360], start below end
+ * @param[out] pmax,pmin upper right and lower left corner; a coordinate outside
+ *                       +-1e20 or NaN does not widen the box, which starts as
+ *                       (-1e20, -1e20) and (1e20, 1e20)
+ * @return always 0
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_arcXY(const DTPOINT *center, double r, double start,
+                                            double end, DTPOINT *pmax, DTPOINT *pmin);
+
+/**
+ * Tells whether a point, seen from the centre, lies in the direction of an arc.
+ *
+ * The direction, or it less or more 360, must lie between start and end with 1e-6
+ * degrees of slack. Equal angles are not the full circle. The distance is not
+ * asked: see ca_posar().
+ *
+ * @param[in]  center    the centre
+ * @param[in]  r         not read
+ * @param[in]  start,end degrees, start not above end
+ * @param[in]  point     the point; at the centre its direction is 0
+ * @param[out] ang       the direction, degrees, (-180, 180]; always written
+ * @return 0 on the arc's range, 1 off it
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_onarc(const DTPOINT *center, double r, double start,
+                                            double end, const DTPOINT *point, double *ang);
+
+/**
+ * Tells on which side of a circle a point lies, within errdist.
+ *
+ * @param[in]  center,r the circle
+ * @param[in]  point    the point
+ * @param[out] side     0 on the circle, 65535 inside, 1 outside; untouched when the
+ *                      result is 1
+ * @return 0 done; 1 when @p r is not positive
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_posar(const DTPOINT *center, double r, const DTPOINT *point,
+                                            uint16_t *side);
+
+/**
+ * Turns an arc whose angles are radians about a point.
+ *
+ * A turn of at most 1e-7 copies the arc. Otherwise a span of 0 or 2 pi, within 1e-7,
+ * becomes (0, 2 pi); the angles of others grow by @p rot, both are lowered by 2 pi
+ * once if one then exceeds 2 pi, and both raised once if one lies below -2 pi.
+ *
+ * @param[in]  center,r   the circle
+ * @param[in]  angles     start and end in radians
+ * @param[in]  pivot      the point about which the arc turns
+ * @param[in]  rot        radians, anticlockwise
+ * @param[out] out_center,out_r,out_angles the turned arc
+ * @return always 0
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_rvarc(const DTPOINT *center, double r, const double *angles,
+                                            const DTPOINT *pivot, double rot, DTPOINT *out_center,
+                                            double *out_r, double *out_angles);
+
+/**
+ * Finds the angle reached after a distance along an arc. The result is an angle,
+ * not a point.
+ *
+ * @param[in]  center    only tested for null
+ * @param[in]  r         radius
+ * @param[in]  start,end degrees, start not above end and at most 360 below it
+ * @param[in]  dist      distance from start; at or beyond the arc's length it gives end
+ * @param[out] ang       degrees; untouched when the result is 0
+ * @return 1 done; 0 when center or ang is null, dist is negative, r is not
+ *         positive, or the angles are not as above
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_DistAlongbyArcFromSpnt(const DTPOINT *center, double r,
+                                                             double start, double end, double dist,
+                                                             double *ang);
+
+/**
+ * Selects the end of an arc to keep where it is cut by an arc of the same circle.
+ *
+ * The end is the start of @p elem when the flag of ca_SetStartendFlg() is 1, else
+ * its end; the other one when its word has PLANEGEO_ATTR_REVERSED. A cutting arc
+ * whose angles are 360 apart (within 1e-8) does not ask the flag: it counts as 0.
+ * Equal angles of @p cut are the full circle as for a2d_ChkDegr(), and ask it.
+ *
+ * @param[in]  elem the arc whose end is wanted
+ * @param[in]  cut  the cutting arc; when its word has exactly one of
+ *                  PLANEGEO_ATTR_REVERSED and PLANEGEO_ATTR_CLOCKWISE, its range
+ *                  runs from its end to its start
+ * @param[out] out  the end; untouched unless the result is 1
+ * @return 1 chosen; 0 that end is not on @p cut (see a2d_ChkDegr()); -1 the centres
+ *         (in x or y) or the radii differ by errdist or more
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_InsDc(const DTARC *elem, const DTARC *cut, DTPOINT *out);
+
+/**
+ * Merges runs of points whose segments keep nearly the same direction.
+ *
+ * A run takes in the segments whose direction differs from that of its first one
+ * by at most @p tol (plus errdist, taken as degrees); the points between its ends
+ * are removed. Directions in (-180, 180] are subtracted as they are: 179 and -179
+ * do not merge.
+ *
+ * @param[in]     n    number of points in the array, which is not checked; below 3,
+ *                     also negative, it is returned as it is
+ * @param[in,out] list address of the array's address; the points kept move to the
+ *                     front in their order, what follows them is undefined. Only
+ *                     the n points are read or written
+ * @param[in]     tol  degrees, [0.1, 5.0]; a NaN merges nothing
+ * @return the new number of points; -1 when the array is null or tol out of range
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_AutoUnionNrb(int32_t n, DTPOINT **list, double tol);
 
 /** @} */
 
 /** @defgroup circleTangents Circle tangents
+ *  A tangent is given by its points of contact.
  *  @{ */
+
+/**
+ * Finds where the tangents from a point touch a circle.
+ *
+ * @param[in]  center,r the circle
+ * @param[in]  point    the point; on or inside the circle, exactly and without a
+ *                      tolerance, it has no tangents
+ * @param[out] out1     the contact right of the direction from the centre to the
+ *                      point; (0, 0) without tangents
+ * @param[out] out2     the contact left of it; (0, 0) without tangents
+ * @param[out] count    0 or 2
+ * @return always 0; the outcome is @p count
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_pctan(const DTPOINT *center, double r, const DTPOINT *point,
+                                            DTPOINT *out1, DTPOINT *out2, uint16_t *count);
+
+/**
+ * Finds the common tangents of two circles.
+ *
+ * There are none when a radius is not positive, the centres coincide within errdist
+ * in x and in y, one circle lies inside the other, or they touch from inside: the
+ * squared distance of the centres and the squared difference of the radii then
+ * differ by less than errdist, as squares. Circles that overlap or touch from
+ * outside have the outer pair only.
+ *
+ * @param[in]  c1,r1,c2,r2 the circles
+ * @param[out] t1,t2,t3,t4 the outer tangents t1-t2 and t3-t4: the first with both
+ *                         circles on its left, seen from c1 to c2, the second with
+ *                         both on its right
+ * @param[out] t5,t6,t7,t8 the inner tangents: t5-t6 touches circle 1 right of the
+ *                         direction from c1 to c2 and circle 2 left of it, t7-t8 the
+ *                         reverse. Odd ones are on circle 1, even ones on circle 2;
+ *                         only the points of the lines counted are written
+ * @param[out] count       number of lines: 0, 2 or 4
+ * @return 0 done; 1 no tangents
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_cctan(const DTPOINT *c1, double r1, const DTPOINT *c2,
+                                            double r2, DTPOINT *t1, DTPOINT *t2, DTPOINT *t3,
+                                            DTPOINT *t4, DTPOINT *t5, DTPOINT *t6, DTPOINT *t7,
+                                            DTPOINT *t8, uint16_t *count);
 
 /** @} */
 

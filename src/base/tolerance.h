@@ -38,6 +38,29 @@ inline constexpr double kEqualRadiiLength = 1e-12;
 inline constexpr double kFullArcSlackDeg = 1e-8;
 /// Slack of both ends of an arc that meets an arc: a2d_ins2c, ca_ins2c.
 inline constexpr double kArcArcSlackDeg = 0.0001;
+/// Sine of each angle between the sides of a triangle that is no arc (<): ca_arc3p.
+inline constexpr double kCollinearSine = 0.0001;
+/// Height over chord of a straight arc (<): ca_arc2pratio.
+inline constexpr double kFlattestRatio = 1e-6;
+/// Chord of an arc without size (<): ca_arc2pratio.
+inline constexpr double kShortestChord = 0.003;
+/// Distance of the middle of an arc from its ends (<): ca_arc2pratio.
+inline constexpr double kMiddleToEnd = 0.0015;
+/// Span that counts as a whole turn (>); six nines, where kReducedMaxDeg has eight: ca_arcan.
+inline constexpr double kWholeTurnDeg = 359.999999;
+/// Bounds of a box that holds nothing yet: ca_arcXY.
+inline constexpr double kEmptyBoxLength = 1e20;
+/// Slack of both ends (<): ca_onarc.
+inline constexpr double kOnArcSlackDeg = 1e-6;
+/// A turn that leaves an arc where it is (<=): ca_rvarc.
+inline constexpr double kNoTurnRad = 1e-7;
+/// Spans of nothing and of a whole turn are a full circle (<=): ca_rvarc.
+inline constexpr double kFullSpanSlackRad = 1e-7;
+/// A span of 360 is a full cutting circle (<): a2d_InsDc.
+inline constexpr double kFullCutSlackDeg = 1e-8;
+/// Tolerances accepted, both included: ca_AutoUnionNrb.
+inline constexpr double kSmallestMergeDeg = 0.1;
+inline constexpr double kLargestMergeDeg = 5.0;
 
 // Polynomial solvers.
 

@@ -2,32 +2,24 @@
 
 #include "circle/circle_circle.h"
 
-#include <algorithm>
-
 #include "base/settings.h"
 
 namespace {
 
 using namespace planegeo;
 
-/// The two points of circles that cross, with d the distance of their centres:
-///   c1 + (q along +- s right) / d^2,  q = (r1^2 - r2^2 + d^2) / 2,  s^2 = r1^2 d^2 - q^2.
-/// Of r1, r2, d as the sides of a triangle, 4 s^2 is the product of Heron's formula; with each
-/// factor's differences taken between neighbours in size, a small circle across a large one
-/// keeps its digits.
-PointPair crossingPoints(const Circle &one, const Circle &other, double d) {
-    const Vec2 along = other.center - one.center;
-    const double sum = one.r + other.r;
-    const double large = std::max(one.r, other.r);
-    const double small = std::min(one.r, other.r);
-    const double overlap = small + (large - d);
-    const double inset = d < small ? d - (large - small) : small - (large - d);
-    const double s = 0.5 * std::sqrt((sum + d) * overlap * (inset * (d + (large - small))));
-    const double d2 = dot(along, along);
-    const double q = ((one.r - other.r) * sum + d2) * 0.5;
-    const Vec2 toChord = along * q;
-    const Vec2 right = leftNormal(along) * -s;
-    return {{one.center + (toChord + right) / d2, one.center + (toChord - right) / d2}, 2};
+/// The two points of circles that cross, with v from centre to centre:
+///   c1 + (q v +- s right of v) / |v|^2,  q = (r1^2 - r2^2 + |v|^2) / 2,  s^2 = r1^2 |v|^2 - q^2.
+/// Kept in this form: it is exact on a grid, and whether a point lies at the very end of an arc
+/// hangs on its last bits. A square that rounding makes negative gives non-finite points.
+PointPair crossingPoints(const Circle &one, const Circle &other) {
+    const Vec2 v = other.center - one.center;
+    const double d2 = dot(v, v);
+    const double q = (one.r * one.r - other.r * other.r + d2) * 0.5;
+    const double s = std::sqrt(one.r * one.r * d2 - q * q);
+    const Vec2 toChord = v * q;
+    const Vec2 left = leftNormal(v) * s;
+    return {{one.center + (toChord - left) / d2, one.center + (toChord + left) / d2}, 2};
 }
 
 Vec2 touchingPoint(const Circle &one, const Circle &other, double d) {
@@ -51,7 +43,7 @@ PointPair crossCircles(const Circle &one, const Circle &other) {
     const double d = std::sqrt(d2);
     const double apart = d - (one.r + other.r);
     const double enclosed = d - std::fabs(one.r - other.r); // negative: one inside the other
-    if (apart < -kTouchLength && enclosed > kTouchLength) return crossingPoints(one, other, d);
+    if (apart < -kTouchLength && enclosed > kTouchLength) return crossingPoints(one, other);
     if (apart > kTouchLength || enclosed < -kTouchLength) return {};
     return {{touchingPoint(one, other, d)}, 1};
 }
@@ -142,7 +134,7 @@ PointPair crossCirclesOfArcs(const Circle &one, const Circle &other) {
         return {{point}, 1};
     }
     if (d < tolerance || overlap < 0.0 || enclosed > d) return {};
-    return crossingPoints(one, other, d);
+    return crossingPoints(one, other);
 }
 
 int32_t answerArcs(const Arc &one, const Arc &other, FullCircleTest isFull, DTPOINT *out1,

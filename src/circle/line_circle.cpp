@@ -43,24 +43,23 @@ namespace planegeo {
 
 PointPair crossLineCircle(const Segment &line, const Circle &circle) {
     const Vec2 along = line.direction();
-    const double length = plainLength(along);
+    const double squared = dot(along, along);
     const PerpendicularFoot foot = footOnLine(circle.center, line.start, along);
-    const double gap = std::fabs(foot.offset) * length - circle.r;
+    const double gap = std::fabs(foot.offset) * std::sqrt(squared) - circle.r;
     if (gap >= distanceTolerance()) return {};
     if (std::fabs(gap) < distanceTolerance()) return {{foot.point}, 1};
 
-    // The points lie at foot +- half the chord, half^2 = r^2 - distance^2. Seen from the end
-    // of the line nearer to the circle, the foot keeps its digits when the other end is far.
-    const Vec2 toStart = line.start - circle.center;
-    const Vec2 toEnd = line.end - circle.center;
-    const bool endIsNearer = dot(toEnd, toEnd) < dot(toStart, toStart);
-    const double offset =
-        endIsNearer ? footOnLine(circle.center, line.end, along).offset : foot.offset;
-    const double distance = std::fabs(offset) * length;
-    const double half = std::sqrt((circle.r - distance) * (circle.r + distance));
-    const Vec2 toFoot = leftNormal(along) * offset;
-    const Vec2 toPoint = along * (half / length);
-    return {{circle.center + (toFoot + toPoint), circle.center + (toFoot - toPoint)}, 2};
+    // With p and q from the centre to the points of the line and d from one to the other:
+    //   c + (D left of d +- s d) / |d|^2,  D = q x p,  s^2 = r^2 |d|^2 - D^2.
+    // Kept in this form: it is exact on a grid, and whether a point lies at the very end of
+    // an arc hangs on its last bits.
+    const double D = cross(line.end - circle.center, line.start - circle.center);
+    const double s = std::sqrt(circle.r * circle.r * squared - D * D);
+    const Vec2 toFoot = leftNormal(along) * D;
+    const Vec2 ahead = along * s;
+    return {
+        {(toFoot + ahead) / squared + circle.center, (toFoot - ahead) / squared + circle.center},
+        2};
 }
 
 std::optional<PointPair> crossLineArc(Keep keep, const Segment &line, const Circle &circle,

@@ -1,0 +1,106 @@
+// The arc through three points or over a chord, and the angles by which an arc is stored.
+
+#include <optional>
+
+#include "base/settings.h"
+#include "circle/circle.h"
+
+namespace {
+
+using namespace planegeo;
+
+/// On purpose all three sines must be small: points of a narrow but tall triangle make an arc.
+bool areCollinear(double cross, double d12, double d23, double d13) {
+    const double area = std::fabs(cross);
+    return area / (d13 * d12) < kCollinearSine && area / (d23 * d12) < kCollinearSine &&
+           area / (d13 * d23) < kCollinearSine;
+}
+
+/// The arc from p1 by p2 to p3, stored anticlockwise whichever way it turns. With s and t the
+/// sides p1p2 and p2p3, its centre is
+///   p2 + left of (|t|^2 s + |s|^2 t) / (2 s x t).
+std::optional<Arc> arcThrough(Vec2 p1, Vec2 p2, Vec2 p3) {
+    const Vec2 s = p2 - p1;
+    const Vec2 t = p3 - p2;
+    const double d12 = hypotLength(s);
+    const double d23 = hypotLength(t);
+    const double d13 = hypotLength(p3 - p1);
+    const double tolerance = distanceTolerance();
+    if (d12 < tolerance || d23 < tolerance || d13 < tolerance) return std::nullopt;
+    const double turn = cross(s, t);
+    if (areCollinear(turn, d12, d23, d13)) return std::nullopt;
+
+    const Vec2 center = p2 + leftNormal(s * dot(t, t) + t * dot(s, s)) / (2.0 * turn);
+    const double deg1 = directionDeg(p1 - center);
+    const double deg3 = directionDeg(p3 - center);
+    const AngleRange range = turn > 0.0 ? AngleRange{deg1, deg3} : AngleRange{deg3, deg1};
+    return Arc{{center, hypotLength(p1 - center)}, range};
+}
+
+bool isWholeTurn(AngleRange range) { return std::fabs(range.end - range.start) > kWholeTurnDeg; }
+
+/// The stored form of an arc's angles, apart from AngleRange::normalised on purpose: the raw
+/// difference is asked first, 360 stays 360, and equal ends stay an arc without extent.
+AngleRange storedRange(AngleRange range) {
+    constexpr AngleRange kFullCircle = {0.0, 360.0};
+    if (isWholeTurn(range)) return kFullCircle;
+    double start = reducedKeeping360(range.start);
+    double end = reducedKeeping360(range.end);
+    if (start > end) end += 360.0;
+    if (end > 360.0) {
+        start -= 360.0;
+        end -= 360.0;
+    }
+    return isWholeTurn({start, end}) ? kFullCircle : AngleRange{start, end};
+}
+
+void storeRange(AngleRange range, double *angles) {
+    angles[0] = range.start;
+    angles[1] = range.end;
+}
+
+int32_t answerArc(const std::optional<Arc> &arc, DTPOINT *center, double *r, double *angles) {
+    if (!arc) {
+        storeRange({0.0, 0.0}, angles);
+        return 1;
+    }
+    store(arc->circle.center, center);
+    *r = arc->circle.r;
+    storeRange(arc->range, angles);
+    return 0;
+}
+
+} // namespace
+
+extern "C" {
+
+int32_t ca_arc3p(const DTPOINT *p1, const DTPOINT *p2, const DTPOINT *p3, DTPOINT *center,
+                 double *r, double *angles) {
+    return answerArc(arcThrough(load(p1), load(p2), load(p3)), center, r, angles);
+}
+
+int32_t ca_arc2pratio(int32_t dir, double ratio, double x1, double y1, double x2, double y2,
+                      DTPOINT *center, double *r, double *angles) {
+    if (std::fabs(ratio) < kFlattestRatio) return 1;
+    const Vec2 start = {x1, y1};
+    const Vec2 end = {x2, y2};
+    const Vec2 chord = end - start;
+    if (hypotLength(chord) < kShortestChord) return 1;
+    const Vec2 outward = dir == 0 ? leftNormal(chord) : -leftNormal(chord);
+    const Vec2 middle = (start + end) * 0.5 + outward * ratio;
+    if (hypotLength(middle - start) < kMiddleToEnd || hypotLength(middle - end) < kMiddleToEnd) {
+        return 1;
+    }
+    std::optional<Arc> arc = arcThrough(start, middle, end);
+    if (arc) arc->range = storedRange(arc->range);
+    return answerArc(arc, center, r, angles);
+}
+
+int32_t ca_arcan(double *start, double *end) {
+    const AngleRange range = storedRange({*start, *end});
+    *start = range.start;
+    *end = range.end;
+    return 0;
+}
+
+} // extern "C"
