@@ -46,8 +46,9 @@ inline constexpr double kFlattestRatio = 1e-6;
 inline constexpr double kShortestChord = 0.003;
 /// Distance of the middle of an arc from its ends (<): ca_arc2pratio.
 inline constexpr double kMiddleToEnd = 0.0015;
-/// Span that counts as a whole turn (>); six nines, where kReducedMaxDeg has eight: ca_arcan.
-inline constexpr double kWholeTurnDeg = 359.999999;
+/// A span above it is stored as the whole turn (>); six nines, where kReducedMaxDeg has eight:
+/// ca_arcan.
+inline constexpr double kStoredTurnDeg = 359.999999;
 /// Bounds of a box that holds nothing yet: ca_arcXY.
 inline constexpr double kEmptyBoxLength = 1e20;
 /// Slack of both ends (<): ca_onarc.

@@ -37,7 +37,7 @@ std::optional<Arc> arcThrough(Vec2 p1, Vec2 p2, Vec2 p3) {
     return Arc{{center, hypotLength(p1 - center)}, range};
 }
 
-bool isWholeTurn(AngleRange range) { return std::fabs(range.end - range.start) > kWholeTurnDeg; }
+bool isWholeTurn(AngleRange range) { return std::fabs(range.end - range.start) > kStoredTurnDeg; }
 
 /// The stored form of an arc's angles, apart from AngleRange::normalised on purpose: the raw
 /// difference is asked first, 360 stays 360, and equal ends stay an arc without extent.
