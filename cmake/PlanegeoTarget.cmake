@@ -2,7 +2,7 @@
 
 # Warnings, for every target of ours.
 function(planegeo_warnings target)
-  target_compile_options(${target} PRIVATE -Wall -Wextra -Wconversion -Wshadow
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wconversion -Wsign-conversion -Wshadow
                          $<$<BOOL:${PLANEGEO_WERROR}>:-Werror>)
 endfunction()
 

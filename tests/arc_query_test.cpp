@@ -7,7 +7,6 @@ using namespace support;
 namespace {
 
 constexpr DTPOINT kCenter = {3, -2};
-constexpr double kPi = 3.141592653589793;
 
 DTPOINT shifted(DTPOINT p) { return {p.x + kCenter.x, p.y + kCenter.y}; }
 

@@ -25,7 +25,7 @@ int32_t probed(double deg, double *value) {
     return probe.answer(deg, value);
 }
 
-PLANEGEO_INTEGRAND answering(std::function<double(double)> value) {
+PLANEGEO_INTEGRAND answering(const std::function<double(double)> &value) {
     probe = {[value](double deg, double *out) { return *out = value(deg), 0; }, {}};
     return probed;
 }
@@ -136,7 +136,7 @@ TEST(Simpson, knownIntegrals) {
     EXPECT_EQ(ca_Simpson(ca_lengelp, 0.0, 360.0, &result), 0);
     EXPECT_NEAR(result, 4.0 * 5.0 * std::comp_ellint_2(0.8), 1e-6);
     EXPECT_EQ(ca_Simpson(ca_AreaElp, 0.0, 360.0, &result), 0);
-    EXPECT_NEAR(result, 15.0 * M_PI, 1e-6);
+    EXPECT_NEAR(result, 15.0 * kPi, 1e-6);
     EXPECT_EQ(ca_Simpson(ca_lengelp, 90.0 - 40.0, 90.0, &result), 0);
     EXPECT_NEAR(result, 5.0 * std::ellint_2(0.8, 40.0 * kRadPerDeg), 1e-6);
     EXPECT_EQ(ca_Simpson(ca_AreaElp, -20.0, 40.0, &result), 0);
@@ -243,7 +243,7 @@ TEST(Length, aWholeTurnIsWrittenFromZero) {
 TEST(LengthTo, movesAndNormalises) {
     const HalfAxes axes(1.0, 1.0);
     DTELLIPSE e = arc(2, 2, 0, 90);
-    EXPECT_EQ(ca_ElpLen2(&e, M_PI / 4, 1), 0);
+    EXPECT_EQ(ca_ElpLen2(&e, kPi / 4, 1), 0);
     EXPECT_EQ(e.start, 0.0);
     EXPECT_NEAR(e.end, 45.0, 1e-6 / kRadPerDeg);
     e = arc(2, 2, 10, 20);
@@ -251,7 +251,7 @@ TEST(LengthTo, movesAndNormalises) {
     EXPECT_NEAR(e.start, -30.0, 1e-6 / kRadPerDeg) << "330 to 20, written as a crossing of 0";
     EXPECT_EQ(e.end, 20.0);
     e = arc(2, 2, 10, 20);
-    EXPECT_EQ(ca_ElpLen2(&e, 2.0 * M_PI, 1), 0);
+    EXPECT_EQ(ca_ElpLen2(&e, 2.0 * kPi, 1), 0);
     EXPECT_EQ(e.end, 360.0) << "a whole turn becomes (0, 360), and of it only the end is stored";
     EXPECT_EQ(e.start, 10.0);
     const DTELLIPSE before = e;

@@ -21,6 +21,7 @@ namespace support {
 inline constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 inline constexpr double kInfinity = std::numeric_limits<double>::infinity();
 inline constexpr double kEpsilon = std::numeric_limits<double>::epsilon();
+inline constexpr double kPi = 3.141592653589793;
 inline constexpr double kRadPerDeg = 0.017453292519943295;
 
 /// What outputs hold before a call; no call computes it.

@@ -85,7 +85,7 @@ void noteParameters(const ArcSpeed &speed, Division &division) {
         sum += (i % 2 == 1 ? 4.0 : 2.0) * speed(t);
         const double pieces = std::trunc((third * sum + ends) / division.piece);
         if (pieces == static_cast<double>(next)) {
-            division.parameters[next - 1] = t;
+            division.parameters[static_cast<std::size_t>(next - 1)] = t;
             ++next;
         }
     }
