@@ -12,6 +12,7 @@ constexpr double kConjugateSlack = 1e-12;
 
 /// An ellipse as the library's placing rules leave it: centre + u cos t + v sin t.
 struct ConjugateEllipse {
+    std::uint32_t attr;
     DTPOINT center, u, v;
     double start, end; ///< of t, degrees
 };
@@ -31,6 +32,7 @@ void normalise(double &start, double &end) {
 /// anticlockwise.
 void turnAnticlockwise(ConjugateEllipse &e) {
     if (cross(e.u, e.v) >= 0.0) return;
+    e.attr ^= PLANEGEO_ATTR_REVERSED;
     e.v = {-e.v.x, -e.v.y};
     const double start = e.start;
     e.start = -e.end;
@@ -60,15 +62,15 @@ bool isRound(const ConjugateEllipse &e) {
 }
 
 ConjugateEllipse placedConjugate(const ConjugateEllipse &e, const Affine &affine) {
-    ConjugateEllipse image = {affine.point(e.center), affine.vector(e.u), affine.vector(e.v),
-                              e.start, e.end};
+    ConjugateEllipse image = {
+        e.attr, affine.point(e.center), affine.vector(e.u), affine.vector(e.v), e.start, e.end};
     turnAnticlockwise(image);
     return image;
 }
 
 Shape asArc(const ConjugateEllipse &e) {
     const double turnDeg = atan2d(e.u.y, e.u.x);
-    DTARC arc = {0, e.center.x, e.center.y, length(e.u), e.start + turnDeg, e.end + turnDeg};
+    DTARC arc = {e.attr, e.center.x, e.center.y, length(e.u), e.start + turnDeg, e.end + turnDeg};
     normalise(arc.start, arc.end);
     return arc;
 }
@@ -76,7 +78,7 @@ Shape asArc(const ConjugateEllipse &e) {
 Shape asEllipse(ConjugateEllipse e) {
     toPrincipalAxes(e);
     DTELLIPSE ellipse = {
-        0,       e.center.x, e.center.y,          2.0 * length(e.u), 2.0 * length(e.v),
+        e.attr,  e.center.x, e.center.y,          2.0 * length(e.u), 2.0 * length(e.v),
         e.start, e.end,      atan2d(e.u.y, e.u.x)};
     normalise(ellipse.start, ellipse.end);
     return ellipse;
@@ -92,13 +94,14 @@ struct Placed {
     }
     Shape operator()(const DTARC &arc) const {
         const ConjugateEllipse image = placedConjugate(
-            {{arc.cx, arc.cy}, {arc.r, 0.0}, {0.0, arc.r}, arc.start, arc.end}, affine);
+            {arc.attr, {arc.cx, arc.cy}, {arc.r, 0.0}, {0.0, arc.r}, arc.start, arc.end}, affine);
         return isRound(image) ? asArc(image) : asEllipse(image);
     }
     Shape operator()(const DTELLIPSE &e) const {
         const double c = cosd(e.rot);
         const double s = sind(e.rot);
-        return asEllipse(placedConjugate({{e.cx, e.cy},
+        return asEllipse(placedConjugate({e.attr,
+                                          {e.cx, e.cy},
                                           {e.a / 2.0 * c, e.a / 2.0 * s},
                                           {-e.b / 2.0 * s, e.b / 2.0 * c},
                                           e.start,

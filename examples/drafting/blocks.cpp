@@ -21,56 +21,63 @@ class Unfolding {
     void addDrawing() {
         countLeftOut("");
         const auto itself = blocks_.find("");
-        if (itself == blocks_.end()) return;
-        for (const auto &item : itself->second.items) {
-            if (const auto *insert = std::get_if<Insert>(&item)) {
-                addInsert(*insert, Affine{}, insert->layer, 1);
-            } else {
-                drawing_.entities.push_back(std::get<Entity>(item));
-            }
-        }
+        if (itself != blocks_.end()) addItems(itself->second, {Affine{}, kLayerZero, 1});
     }
 
   private:
-    void addInsert(const Insert &insert, const Affine &outer, std::uint32_t layer, int depth) {
+    /// Where the contents of a block go.
+    struct Place {
+        Affine affine;
+        std::uint32_t layer;
+        int depth;
+
+        std::uint32_t layerOf(std::uint32_t own) const { return own == kLayerZero ? layer : own; }
+    };
+
+    void addItems(const Block &block, const Place &place) {
+        for (const auto &item : block.items) {
+            countStep();
+            std::visit([&](const auto &kind) { add(kind, place); }, item);
+        }
+    }
+
+    void add(const Entity &entity, const Place &place) {
+        drawing_.entities.push_back(
+            {placed(entity.shape, place.affine), place.layerOf(entity.layer)});
+    }
+
+    void add(const Polyline &polyline, const Place &place) {
+        drawing_.outlines.push_back(
+            {drawing_.entities.size(), polyline.segments.size(), polyline.closed});
+        for (const Shape &segment : polyline.segments) {
+            countStep();
+            add(Entity{segment, polyline.layer}, place);
+        }
+    }
+
+    void add(const Insert &insert, const Place &place) {
         const auto block = blocks_.find(insert.block);
         if (block == blocks_.end()) {
             ++drawing_.leftOut["INSERT of a block that the file lacks"];
-        } else if (depth > kDeepest) {
+        } else if (place.depth > kDeepest) {
             ++drawing_.leftOut["INSERT nested more than " + std::to_string(kDeepest) + " deep"];
         } else {
-            addGrid(insert, block->second, outer * insert.outer, layer, depth);
+            addGrid(insert, block->second, place);
         }
     }
 
-    void addGrid(const Insert &insert, const Block &block, const Affine &outer, std::uint32_t layer,
-                 int depth) {
-        const Affine toCell = insert.inner * Affine::move(-block.base.x, -block.base.y);
+    void addGrid(const Insert &insert, const Block &block, const Place &place) {
+        const Affine outer = place.affine * insert.outer;
+        const Affine inner = insert.inner * Affine::move(-block.base.x, -block.base.y);
         for (int row = 0; row < insert.rows; ++row) {
             for (int column = 0; column < insert.columns; ++column) {
                 const Affine cell = Affine::move(column * insert.columnStep, row * insert.rowStep);
+                countStep();
                 countLeftOut(insert.block);
-                addBlock(block, outer * cell * toCell, layer, depth);
+                addItems(block,
+                         {outer * cell * inner, place.layerOf(insert.layer), place.depth + 1});
             }
         }
-    }
-
-    void addBlock(const Block &block, const Affine &affine, std::uint32_t layer, int depth) {
-        countStep();
-        for (const auto &item : block.items) {
-            countStep();
-            if (const auto *insert = std::get_if<Insert>(&item)) {
-                addInsert(*insert, affine, layerOf(insert->layer, layer), depth + 1);
-            } else {
-                const Entity &entity = std::get<Entity>(item);
-                drawing_.entities.push_back(
-                    {placed(entity.shape, affine), layerOf(entity.layer, layer)});
-            }
-        }
-    }
-
-    static std::uint32_t layerOf(std::uint32_t own, std::uint32_t insert) {
-        return own == kLayerZero ? insert : own;
     }
 
     void countLeftOut(const std::string &block) {

@@ -22,9 +22,15 @@ struct Insert {
     std::uint32_t layer;
 };
 
+struct Polyline {
+    std::vector<Shape> segments;
+    bool closed;
+    std::uint32_t layer;
+};
+
 struct Block {
     DTPOINT base = {0.0, 0.0};
-    std::vector<std::variant<Entity, Insert>> items;
+    std::vector<std::variant<Entity, Polyline, Insert>> items;
 };
 
 /// Blocks by blockKey() of their name; the drawing itself has the empty name.

@@ -21,16 +21,41 @@ std::string pairName(const Shape &a, const Shape &b) {
     return std::string(nameOf(low)) + " with " + nameOf(high);
 }
 
+bool endsAt(const Shape &shape, DTPOINT p) {
+    const Ends ends = endsOf(shape);
+    for (std::size_t i = 0; i < ends.count; ++i)
+        if (isTogether(ends.points[i], p)) return true;
+    return false;
+}
+
 void addPair(const Drawing &drawing, std::size_t i, std::size_t j, Crossings &crossings) {
     const Shape &first = drawing.entities[i].shape;
     const Shape &second = drawing.entities[j].shape;
     const Meeting meeting = meetingOf(first, second);
     if (!meeting.known) ++crossings.unknown[pairName(first, second)];
-    for (std::size_t k = 0; k < meeting.count; ++k)
-        crossings.found.push_back({i, j, meeting.points[k], meeting.overlaps});
+    for (std::size_t k = 0; k < meeting.count; ++k) {
+        const DTPOINT at = meeting.points[k];
+        const bool isJoint = endsAt(first, at) && endsAt(second, at);
+        const CrossingKind kind = meeting.overlaps ? CrossingKind::overlap
+                                  : isJoint        ? CrossingKind::joint
+                                                   : CrossingKind::crossing;
+        crossings.found.push_back({i, j, at, kind});
+    }
 }
 
 } // namespace
+
+const char *nameOf(CrossingKind kind) {
+    switch (kind) {
+    case CrossingKind::crossing:
+        return "crossing";
+    case CrossingKind::joint:
+        return "joint";
+    case CrossingKind::overlap:
+        return "overlap";
+    }
+    return "";
+}
 
 Crossings crossingsOf(const Drawing &drawing) {
     Crossings crossings;

@@ -7,10 +7,19 @@
 
 namespace draft {
 
+enum class CrossingKind {
+    crossing,
+    joint,  ///< both entities end there
+    overlap ///< an end of a stretch that both share
+};
+inline constexpr std::size_t kCrossingKindCount = 3;
+
+const char *nameOf(CrossingKind kind);
+
 struct Crossing {
     std::size_t first, second; ///< places in Drawing::entities, first < second
     DTPOINT at;
-    bool overlap; ///< an end of a stretch that both share
+    CrossingKind kind;
 };
 
 struct Crossings {

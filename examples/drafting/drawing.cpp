@@ -3,27 +3,31 @@
 #include <algorithm>
 #include <array>
 
+#include "text.h"
+
 namespace draft {
 
 namespace {
 
 constexpr double kFullTurnDeg = 360.0;
 
-bool isWholeTurn(double start, double end) { return end - start == kFullTurnDeg; }
-
-struct KindOf {
-    Kind operator()(const DTLINE & /*line*/) const { return Kind::line; }
-    Kind operator()(const DTARC &arc) const {
-        return isWholeTurn(arc.start, arc.end) ? Kind::circle : Kind::arc;
+struct EndsOf {
+    Ends operator()(const DTLINE &line) const {
+        return {{DTPOINT{line.x1, line.y1}, DTPOINT{line.x2, line.y2}}, 2};
     }
-    Kind operator()(const DTELLIPSE &e) const {
-        return isWholeTurn(e.start, e.end) ? Kind::ellipse : Kind::ellipticArc;
+    template <typename Curve> Ends operator()(const Curve &curve) const {
+        if (isClosed(curve)) return {};
+        return {{pointAt(curve, curve.start), pointAt(curve, curve.end)}, 2};
     }
 };
 
-DTPOINT pointOn(const DTARC &arc, double deg) {
-    return {arc.cx + arc.r * cosd(deg), arc.cy + arc.r * sind(deg)};
-}
+struct KindOf {
+    Kind operator()(const DTLINE & /*line*/) const { return Kind::line; }
+    Kind operator()(const DTARC &arc) const { return isClosed(arc) ? Kind::circle : Kind::arc; }
+    Kind operator()(const DTELLIPSE &e) const {
+        return isClosed(e) ? Kind::ellipse : Kind::ellipticArc;
+    }
+};
 
 struct ExtentsOf {
     Box operator()(const DTLINE &line) const {
@@ -34,10 +38,10 @@ struct ExtentsOf {
     }
     Box operator()(const DTARC &arc) const {
         Box box;
-        box.widen(pointOn(arc, arc.start));
-        box.widen(pointOn(arc, arc.end));
+        box.widen(pointAt(arc, arc.start));
+        box.widen(pointAt(arc, arc.end));
         for (const double quadrant : {0.0, 90.0, 180.0, 270.0}) {
-            if (a2d_ChkDegr(arc.start, arc.end, quadrant) == 0) box.widen(pointOn(arc, quadrant));
+            if (a2d_ChkDegr(arc.start, arc.end, quadrant) == 0) box.widen(pointAt(arc, quadrant));
         }
         return box;
     }
@@ -56,6 +60,25 @@ struct ExtentsOf {
 
 } // namespace
 
+bool isClosed(const DTARC &arc) { return arc.end - arc.start == kFullTurnDeg; }
+bool isClosed(const DTELLIPSE &ellipse) { return ellipse.end - ellipse.start == kFullTurnDeg; }
+
+DTPOINT pointAt(const DTARC &arc, double deg) {
+    return {arc.cx + arc.r * cosd(deg), arc.cy + arc.r * sind(deg)};
+}
+
+DTPOINT pointAt(const DTELLIPSE &ellipse, double deg) {
+    const DTPOINT center = {ellipse.cx, ellipse.cy};
+    const DTPOINT local = {ellipse.a / 2.0 * cosd(deg), ellipse.b / 2.0 * sind(deg)};
+    DTPOINT point;
+    pnt_formd(&local, &center, ellipse.rot, &point);
+    return point;
+}
+
+Ends endsOf(const Shape &shape) { return std::visit(EndsOf{}, shape); }
+
+bool isTogether(DTPOINT p, DTPOINT q) { return ca_dstpt(&p, &q) < ca_geterrdist(); }
+
 Kind kindOf(const Shape &shape) { return std::visit(KindOf{}, shape); }
 
 const char *nameOf(Kind kind) {
@@ -72,10 +95,6 @@ const char *nameOf(Kind kind) {
         return "elliptic arc";
     }
     return "";
-}
-
-std::string counted(std::size_t count, Kind kind) {
-    return std::to_string(count) + " " + nameOf(kind) + (count == 1 ? "" : "s");
 }
 
 void Box::widen(DTPOINT p) { join(Box{p.x, p.y, p.x, p.y}); }
@@ -109,7 +128,7 @@ std::string inventory(const Drawing &drawing) {
     for (std::size_t i = 0; i < kKindCount; ++i) {
         if (counts[i] == 0) continue;
         if (!text.empty()) text += ", ";
-        text += counted(counts[i], static_cast<Kind>(i));
+        text += countedAs(counts[i], nameOf(static_cast<Kind>(i)));
     }
     return text.empty() ? "nothing that can be drawn" : text;
 }

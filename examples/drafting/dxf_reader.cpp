@@ -137,16 +137,17 @@ class Collector : public DL_CreationAdapter {
     }
 
     void add(const Shape &shape, const Affine &plane) {
-        add(shape, plane, layerOf(attributes.getLayer()));
-    }
-    void add(const Shape &shape, const Affine &plane, std::uint32_t layer) {
-        blocks_[block_].items.emplace_back(Entity{placed(shape, plane), layer});
+        blocks_[block_].items.emplace_back(
+            Entity{placed(shape, plane), layerOf(attributes.getLayer())});
     }
 
     void finishPolyline() {
         if (!std::exchange(inPolyline_, false)) return;
-        for (const Shape &shape : segmentsOf(vertices_, closed_, leftOut_[block_]))
-            add(shape, polylinePlane_, polylineLayer_);
+        Polyline polyline{segmentsOf(vertices_, closed_, leftOut_[block_]), closed_,
+                          polylineLayer_};
+        for (Shape &segment : polyline.segments)
+            segment = placed(segment, polylinePlane_);
+        if (!polyline.segments.empty()) blocks_[block_].items.emplace_back(std::move(polyline));
         if (vertices_.size() < 2) leaveOut("polyline of fewer than two vertices");
         vertices_.clear();
     }

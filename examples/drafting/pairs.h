@@ -8,7 +8,7 @@
 
 namespace draft {
 
-/// The points common to two shapes, in the order of the library's answer.
+/// The points common to two shapes, in the order of the library's answer; then their ends.
 struct Meeting {
     static constexpr std::size_t kMost = 4;
 

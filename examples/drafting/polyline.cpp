@@ -17,7 +17,7 @@ Shape arcOver(DTPOINT from, DTPOINT to, double bulge) {
                             (from.y + to.y) / 2.0 + height * chord.x};
     const DTPOINT first = bulge > 0.0 ? from : to;
     const DTPOINT last = bulge > 0.0 ? to : from;
-    DTARC arc = {0,
+    DTARC arc = {bulge > 0.0 ? 0 : PLANEGEO_ATTR_REVERSED,
                  center.x,
                  center.y,
                  ca_dstpt(&center, &from),

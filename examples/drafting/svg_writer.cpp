@@ -32,8 +32,21 @@ text { font-family: "DejaVu Sans", "Helvetica Neue", Arial, sans-serif; fill: #1
 </style>
 )";
 
-constexpr std::array<const char *, 5> kResultColors = {"#d64545", "#e07b00", "#8719e0", "#c2258c",
-                                                       "#4c63b6"};
+const char *colorOf(ResultLayer::Kind kind) {
+    switch (kind) {
+    case ResultLayer::Kind::crossing:
+        return "#d64545";
+    case ResultLayer::Kind::joint:
+        return "#9aa5b1";
+    case ResultLayer::Kind::overlap:
+        return "#8719e0";
+    case ResultLayer::Kind::tangent:
+        return "#e07b00";
+    case ResultLayer::Kind::division:
+        return "#c2258c";
+    }
+    return "#000000";
+}
 
 enum class Group { lines, arcs, ellipses };
 constexpr std::size_t kGroupCount = 3;
@@ -62,19 +75,9 @@ class Outline {
     std::string operator()(const DTLINE &line) const {
         return "M" + at({line.x1, line.y1}) + "L" + at({line.x2, line.y2});
     }
-    std::string operator()(const DTARC &arc) const {
-        return turn(arc.start, arc.end, arc.r, arc.r, 0.0, [&](double deg) {
-            return DTPOINT{arc.cx + arc.r * cosd(deg), arc.cy + arc.r * sind(deg)};
-        });
-    }
+    std::string operator()(const DTARC &arc) const { return turn(arc, arc.r, arc.r, 0.0); }
     std::string operator()(const DTELLIPSE &e) const {
-        const DTPOINT center = {e.cx, e.cy};
-        return turn(e.start, e.end, e.a / 2.0, e.b / 2.0, e.rot, [&](double deg) {
-            const DTPOINT local = {e.a / 2.0 * cosd(deg), e.b / 2.0 * sind(deg)};
-            DTPOINT point;
-            pnt_formd(&local, &center, e.rot, &point);
-            return point;
-        });
+        return turn(e, e.a / 2.0, e.b / 2.0, e.rot);
     }
 
   private:
@@ -82,16 +85,16 @@ class Outline {
 
     /// In pieces of at most a third of a turn, so that no piece's ends fall together and none
     /// could be taken for the rest of its turn.
-    template <typename PointAt>
-    std::string turn(double start, double end, double first, double second, double rot,
-                     PointAt pointAt) const {
+    template <typename Curve>
+    std::string turn(const Curve &curve, double first, double second, double rot) const {
         constexpr double kPiece = 120.0;
-        const int pieces = std::max(1, static_cast<int>(std::ceil((end - start) / kPiece)));
+        const double span = curve.end - curve.start;
+        const int pieces = std::max(1, static_cast<int>(std::ceil(span / kPiece)));
         const std::string radii = "A" + pixels(first * page_.scale()) + " " +
                                   pixels(second * page_.scale()) + " " + pixels(-rot) + " 0 0 ";
-        std::string path = "M" + at(pointAt(start));
+        std::string path = "M" + at(pointAt(curve, curve.start));
         for (int i = 1; i <= pieces; ++i)
-            path += radii + at(pointAt(start + (end - start) * i / pieces));
+            path += radii + at(pointAt(curve, curve.start + span * i / pieces));
         return path;
     }
 
@@ -127,7 +130,8 @@ std::string entities(const Drawing &drawing, const Page &page) {
 
 double pointRadius(std::size_t count) { return count <= 300 ? 4.0 : count <= 3000 ? 2.5 : 1.5; }
 
-std::string resultLayer(const ResultLayer &layer, const char *color, const Page &page) {
+std::string resultLayer(const ResultLayer &layer, const Page &page) {
+    const char *color = colorOf(layer.kind);
     std::string text = "<g class=\"result\" stroke=\"" + std::string(color) + "\">\n";
     for (const Shape &shape : layer.shapes)
         text += element(std::visit(Outline(page), shape), "", "");
@@ -183,8 +187,8 @@ std::string legend(const Drawing &drawing, const std::vector<ResultLayer> &resul
         if (counts[i] > 0) keys.addLine(std::string("shape ") + kGroupClass[i], kNames[i]);
     }
     Legend found(page.left(), page.bottom() + 68.0);
-    for (std::size_t i = 0; i < results.size(); ++i)
-        found.addPoint(kResultColors[i % kResultColors.size()], results[i].name);
+    for (const ResultLayer &layer : results)
+        found.addPoint(colorOf(layer.kind), layer.name);
     return keys.text() + found.text();
 }
 
@@ -212,8 +216,8 @@ std::string svgOf(const Drawing &drawing, const std::vector<ResultLayer> &result
     svg += "<rect class=\"paper\" width=\"" + width + "\" height=\"" + height + "\"/>\n";
     svg += "<rect class=\"area\" " + area + "/>\n" + page.grid() + heading(drawing, page);
     svg += "<g clip-path=\"url(#area)\">\n" + entities(drawing, page);
-    for (std::size_t i = 0; i < results.size(); ++i)
-        svg += resultLayer(results[i], kResultColors[i % kResultColors.size()], page);
+    for (const ResultLayer &layer : results)
+        svg += resultLayer(layer, page);
     svg += "</g>\n" + legend(drawing, results, page) + page.scaleBar(page.bottom() + 56.0);
     return svg + "</svg>\n";
 }

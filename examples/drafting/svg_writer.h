@@ -10,6 +10,9 @@ namespace draft {
 
 /// One kind of result: its points and shapes get one colour and one line of the legend.
 struct ResultLayer {
+    enum class Kind { crossing, joint, overlap, tangent, division };
+
+    Kind kind;
     std::string name; ///< with its count: "31 crossings"
     std::vector<DTPOINT> points;
     std::vector<Shape> shapes;

@@ -28,6 +28,10 @@ std::string fixed(double value, int decimals) {
     return text;
 }
 
+std::string countedAs(std::size_t count, const std::string &name) {
+    return std::to_string(count) + " " + name + (count == 1 ? "" : "s");
+}
+
 int decimalsFor(const Box &extents) {
     const double size = std::max(extents.width(), extents.height());
     if (!(size > 0.0)) return kShownDigits / 2;

@@ -11,6 +11,9 @@ namespace draft {
 /// A number with so many decimals; a zero has no sign.
 std::string fixed(double value, int decimals);
 
+/// "1 crossing", "2 crossings".
+std::string countedAs(std::size_t count, const std::string &name);
+
 /// Decimals that show eight digits of a drawing's size.
 int decimalsFor(const Box &extents);
 

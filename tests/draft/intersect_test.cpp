@@ -1,5 +1,10 @@
 // Known crossings of small drawings and of the samples.
 
+#include <algorithm>
+#include <cmath>
+#include <sstream>
+#include <vector>
+
 #include <gtest/gtest.h>
 
 #include "program.h"
@@ -18,40 +23,123 @@ std::string line(double x1, double y1, double x2, double y2) {
            std::to_string(x2) + "|21 " + std::to_string(y2);
 }
 
+std::string arc(double x, double y, double r, double start, double end) {
+    return "0 ARC|8 0|10 " + std::to_string(x) + "|20 " + std::to_string(y) + "|40 " +
+           std::to_string(r) + "|50 " + std::to_string(start) + "|51 " + std::to_string(end);
+}
+
+std::string circle(double x, double y, double r) {
+    return "0 CIRCLE|8 0|10 " + std::to_string(x) + "|20 " + std::to_string(y) + "|40 " +
+           std::to_string(r);
+}
+
+/// The first half axis lies along x; the range is told in turns.
+std::string ellipse(double x, double y, double first, double second, double from = 0,
+                    double to = 1) {
+    const double turn = 6.283185307179586;
+    std::ostringstream text;
+    text.precision(17);
+    text << "0 ELLIPSE|8 0|10 " << x << "|20 " << y << "|11 " << first << "|21 0|40 "
+         << second / first << "|41 " << from * turn << "|42 " << to * turn;
+    return text.str();
+}
+
+struct Case {
+    const char *about;
+    std::string first, second;
+    std::vector<Point> want; // in any order
+    const char *kind = "crossing";
+};
+
+void check(const Scratch &scratch, const Case &c) {
+    const std::string file = scratch.write("a.dxf", dxf(c.first + "|" + c.second));
+    const auto outcome = scratch.draft("intersect --json " + file);
+    ASSERT_EQ(outcome.exitCode, 0) << c.about << outcome.err;
+    ASSERT_EQ(outcome.err, "") << c.about;
+    const auto found = outcome.json()["crossings"];
+    ASSERT_EQ(found.size(), c.want.size()) << c.about << found;
+    for (const Point want : c.want) {
+        const auto isWanted = [&](const nlohmann::json &point) {
+            return std::hypot(point["x"].get<double>() - want.x,
+                              point["y"].get<double>() - want.y) < 1e-12;
+        };
+        EXPECT_EQ(std::count_if(found.begin(), found.end(), isWanted), 1)
+            << c.about << ": (" << want.x << ", " << want.y << ") in " << found;
+    }
+    for (const auto &point : found) {
+        EXPECT_EQ(point["kind"], c.kind) << c.about;
+        EXPECT_EQ(point["first"]["number"], 1) << c.about;
+        EXPECT_EQ(point["second"]["number"], 2) << c.about;
+    }
+}
+
 TEST(Intersect, LinesMeet) {
     const Scratch scratch("lines");
-    struct Lines {
-        const char *about;
-        std::string first, second;
-        std::vector<Point> want;
-        bool overlap;
+    const Case cases[] = {
+        {"cross", line(0, 0, 4, 4), line(0, 4, 4, 0), {{2, 2}}},
+        {"end on the other's middle", line(1, 1, 5, 1), line(3, 1, 3, 9), {{3, 1}}},
+        {"corner", line(1, 1, 5, 1), line(5, 1, 5, 9), {{5, 1}}, "joint"},
+        {"short of each other", line(0, 0, 1, 1), line(0, 4, 4, 0), {}},
+        {"parallel", line(0, 0, 4, 0), line(0, 1, 4, 1), {}},
+        {"in one line, apart", line(0, 0, 1, 0), line(2, 0, 3, 0), {}},
+        {"in one line, end to end", line(0, 0, 2, 0), line(5, 0, 2, 0), {{2, 0}}, "joint"},
+        {"a stretch in common", line(0, 0, 3, 0), line(5, 0, 2, 0), {{3, 0}, {2, 0}}, "overlap"},
+        {"one within the other", line(0, 0, 9, 0), line(5, 0, 2, 0), {{5, 0}, {2, 0}}, "overlap"},
+        {"the same twice", line(0, 0, 9, 0), line(9, 0, 0, 0), {{0, 0}, {9, 0}}, "overlap"},
     };
-    const Lines cases[] = {
-        {"cross", line(0, 0, 4, 4), line(0, 4, 4, 0), {{2, 2}}, false},
-        {"end on the other's middle", line(1, 1, 5, 1), line(3, 1, 3, 9), {{3, 1}}, false},
-        {"corner", line(1, 1, 5, 1), line(5, 1, 5, 9), {{5, 1}}, false},
-        {"short of each other", line(0, 0, 1, 1), line(0, 4, 4, 0), {}, false},
-        {"parallel", line(0, 0, 4, 0), line(0, 1, 4, 1), {}, false},
-        {"in one line, apart", line(0, 0, 1, 0), line(2, 0, 3, 0), {}, false},
-        {"in one line, end to end", line(0, 0, 2, 0), line(5, 0, 2, 0), {{2, 0}}, false},
-        {"a stretch in common", line(0, 0, 3, 0), line(5, 0, 2, 0), {{3, 0}, {2, 0}}, true},
-        {"one within the other", line(0, 0, 9, 0), line(5, 0, 2, 0), {{5, 0}, {2, 0}}, true},
-        {"the same twice", line(0, 0, 9, 0), line(9, 0, 0, 0), {{0, 0}, {9, 0}}, true},
+    for (const Case &c : cases)
+        check(scratch, c);
+}
+
+TEST(Intersect, CirclesAndArcsMeet) {
+    const Scratch scratch("arcs");
+    const Case cases[] = {
+        {"line through a circle", line(-9, 3, 9, 3), circle(0, 0, 5), {{4, 3}, {-4, 3}}},
+        {"line that ends within", line(0, 3, 9, 3), circle(0, 0, 5), {{4, 3}}},
+        {"line that touches", line(-9, 5, 9, 5), circle(0, 0, 5), {{0, 5}}},
+        {"an arc without one of the points", line(-9, 3, 9, 3), arc(0, 0, 5, -90, 90), {{4, 3}}},
+        {"an arc that crosses the x axis", line(3, -9, 3, 9), arc(0, 0, 5, 300, 10), {{3, -4}}},
+        {"line and arc in a row", line(-9, 5, 0, 5), arc(0, 0, 5, 0, 90), {{0, 5}}, "joint"},
+        {"circles", circle(0, 0, 5), circle(6, 0, 5), {{3, 4}, {3, -4}}},
+        {"circles that touch", circle(0, 0, 2), circle(5, 0, 3), {{2, 0}}},
+        {"one circle within another", circle(0, 0, 5), circle(1, 0, 2), {}},
+        {"arcs", arc(0, 0, 5, 0, 180), arc(6, 0, 5, 90, 200), {{3, 4}}},
+        {"halves of one circle",
+         arc(1, 0, 5, -90, 90),
+         arc(1, 0, 5, 90, 270),
+         {{1, 5}, {1, -5}},
+         "joint"},
+        {"arcs of one circle, overlapping",
+         arc(1, 0, 5, 0, 180),
+         arc(1, 0, 5, 90, 270),
+         {{1, 5}, {-4, 0}},
+         "overlap"},
+        {"an arc twice", arc(1, 0, 5, 0, 90), arc(1, 0, 5, 0, 90), {{6, 0}, {1, 5}}, "overlap"},
+        {"an arc on its circle", circle(1, 0, 5), arc(1, 0, 5, 0, 90), {{6, 0}, {1, 5}}, "overlap"},
+        {"a circle twice", circle(1, 0, 5), circle(1, 0, 5), {{-4, 0}}, "overlap"},
     };
-    for (const Lines &c : cases) {
-        const std::string file = scratch.write("a.dxf", dxf(c.first + "|" + c.second));
-        const auto outcome = scratch.draft("intersect --json " + file);
-        ASSERT_EQ(outcome.exitCode, 0) << c.about << outcome.err;
-        const auto found = outcome.json()["crossings"];
-        ASSERT_EQ(found.size(), c.want.size()) << c.about;
-        for (std::size_t i = 0; i < c.want.size(); ++i) {
-            EXPECT_NEAR(found[i]["x"].get<double>(), c.want[i].x, 1e-12) << c.about;
-            EXPECT_NEAR(found[i]["y"].get<double>(), c.want[i].y, 1e-12) << c.about;
-            EXPECT_EQ(found[i]["overlap"].get<bool>(), c.overlap) << c.about;
-            EXPECT_EQ(found[i]["first"]["number"], 1) << c.about;
-            EXPECT_EQ(found[i]["second"]["number"], 2) << c.about;
-        }
-    }
+    for (const Case &c : cases)
+        check(scratch, c);
+}
+
+TEST(Intersect, LinesAndEllipsesMeet) {
+    const Scratch scratch("ellipses");
+    const Case cases[] = {
+        {"through both sides", line(-9, 3, 29, 3), ellipse(10, 0, 10, 5), {{2, 3}, {18, 3}}},
+        {"a line that ends within", line(10, 3, 29, 3), ellipse(10, 0, 10, 5), {{18, 3}}},
+        {"touching", line(-9, 5, 29, 5), ellipse(10, 0, 10, 5), {{10, 5}}},
+        {"an arc without one of them",
+         line(-9, 3, 29, 3),
+         ellipse(10, 0, 10, 5, 0, 0.25),
+         {{18, 3}}},
+        {"at the end of an arc",
+         line(10, 5, 10, 9),
+         ellipse(10, 0, 10, 5, 0, 0.25),
+         {{10, 5}},
+         "joint"},
+    };
+    for (const Case &c : cases)
+        check(scratch, c);
 }
 
 TEST(Intersect, TellsPeopleInATable) {

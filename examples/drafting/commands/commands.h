@@ -5,7 +5,9 @@
 
 namespace draft {
 
+void addDivide(CLI::App &app);
 void addIntersect(CLI::App &app);
+void addMeasure(CLI::App &app);
 void addPlot(CLI::App &app);
 
 } // namespace draft

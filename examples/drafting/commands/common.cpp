@@ -1,9 +1,12 @@
 #include "commands/common.h"
 
-#include <cstdio>
+#include <array>
 #include <iostream>
+#include <numeric>
 
 #include "dxf_reader.h"
+#include "failure.h"
+#include "text.h"
 
 namespace draft {
 
@@ -25,6 +28,34 @@ void addFileArgument(CLI::App &command, CommonOptions &options) {
 
 void addJsonFlag(CLI::App &command, CommonOptions &options) {
     command.add_flag("--json", options.json, "answer as JSON, for programs");
+}
+
+void addPictureOption(CLI::App &command, CommonOptions &options) {
+    command.add_option("-o,--output", options.output, "also draw the answer into this SVG file");
+}
+
+void addEntityOption(CLI::App &command, std::vector<std::size_t> &numbers,
+                     const std::string &what) {
+    command.add_option("-e,--entity", numbers, what + ", by their numbers (3 7, or 3,7)")
+        ->delimiter(',');
+}
+
+std::vector<std::size_t> chosenOrAll(const Drawing &drawing,
+                                     const std::vector<std::size_t> &numbers) {
+    const std::size_t count = drawing.entities.size();
+    std::vector<std::size_t> chosen;
+    for (const std::size_t number : numbers) {
+        if (number < 1 || number > count) {
+            throw Failure("there is no entity #" + std::to_string(number) + "; the drawing has " +
+                          std::to_string(count));
+        }
+        chosen.push_back(number - 1);
+    }
+    if (numbers.empty()) {
+        chosen.resize(count);
+        std::iota(chosen.begin(), chosen.end(), std::size_t{0});
+    }
+    return chosen;
 }
 
 Drawing openDrawing(const std::string &path) {
@@ -56,14 +87,29 @@ void print(const Json &json) {
 
 void tellUnknown(const Crossings &crossings) { tell("pairs not looked at", crossings.unknown); }
 
-ResultLayer layerOf(const Crossings &crossings) {
-    const std::size_t count = crossings.found.size();
-    ResultLayer layer;
-    layer.name = std::to_string(count) + (count == 1 ? " crossing" : " crossings");
-    layer.points.reserve(count);
+std::vector<ResultLayer> layersOf(const Crossings &crossings) {
+    std::array<ResultLayer, kCrossingKindCount> byKind;
+    byKind[0].kind = ResultLayer::Kind::crossing;
+    byKind[1].kind = ResultLayer::Kind::joint;
+    byKind[2].kind = ResultLayer::Kind::overlap;
     for (const Crossing &crossing : crossings.found)
-        layer.points.push_back(crossing.at);
-    return layer;
+        byKind[static_cast<std::size_t>(crossing.kind)].points.push_back(crossing.at);
+    std::vector<ResultLayer> layers;
+    // The last are drawn on top.
+    for (std::size_t i = kCrossingKindCount; i-- > 0;) {
+        const std::size_t count = byKind[i].points.size();
+        if (count == 0 && i > 0) continue;
+        byKind[i].name = countedAs(count, nameOf(static_cast<CrossingKind>(i)));
+        layers.push_back(std::move(byKind[i]));
+    }
+    return layers;
+}
+
+std::string summary(const std::vector<ResultLayer> &layers) {
+    std::string text;
+    for (auto layer = layers.rbegin(); layer != layers.rend(); ++layer)
+        text += (text.empty() ? "" : ", ") + layer->name;
+    return text;
 }
 
 } // namespace draft

@@ -24,6 +24,15 @@ struct CommonOptions {
 void addFileArgument(CLI::App &command, CommonOptions &options);
 void addJsonFlag(CLI::App &command, CommonOptions &options);
 
+/// "-o": a picture of the answer.
+void addPictureOption(CLI::App &command, CommonOptions &options);
+/// "-e": entities by the numbers that the tables show.
+void addEntityOption(CLI::App &command, std::vector<std::size_t> &numbers, const std::string &what);
+
+/// Entities by their numbers, or all; throws Failure for a number that the drawing lacks.
+std::vector<std::size_t> chosenOrAll(const Drawing &drawing,
+                                     const std::vector<std::size_t> &numbers);
+
 /// Reads a drawing and tells on the error stream what it does not hold of its file.
 Drawing openDrawing(const std::string &path);
 
@@ -34,6 +43,9 @@ void print(const Json &json);
 
 /// Pairs that the crossings leave open are told on the error stream.
 void tellUnknown(const Crossings &crossings);
-ResultLayer layerOf(const Crossings &crossings);
+/// One layer for each kind that occurs, at least that of the crossings.
+std::vector<ResultLayer> layersOf(const Crossings &crossings);
+/// "31 crossings, 4 joints".
+std::string summary(const std::vector<ResultLayer> &layers);
 
 } // namespace draft

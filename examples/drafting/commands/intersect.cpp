@@ -25,10 +25,10 @@ void printTable(const Drawing &drawing, const Crossings &crossings) {
         const Crossing &c = crossings.found[i];
         table.add({std::to_string(i + 1), fixed(c.at.x, decimals), fixed(c.at.y, decimals),
                    label(drawing, c.first), label(drawing, c.second),
-                   c.overlap ? "end of a common stretch" : ""});
+                   c.kind == CrossingKind::crossing ? "" : nameOf(c.kind)});
     }
     std::cout << drawing.path << ": " << inventory(drawing) << "\n"
-              << layerOf(crossings).name << "\n";
+              << summary(layersOf(crossings)) << "\n";
     if (!crossings.found.empty()) std::cout << "\n" << table.text();
 }
 
@@ -40,7 +40,7 @@ void printJson(const Drawing &drawing, const Crossings &crossings) {
                                      {"y", c.at.y},
                                      {"first", describe(drawing, c.first)},
                                      {"second", describe(drawing, c.second)},
-                                     {"overlap", c.overlap}});
+                                     {"kind", nameOf(c.kind)}});
     }
     print(json);
 }
@@ -49,7 +49,7 @@ void run(const CommonOptions &options) {
     const Drawing drawing = openDrawing(options.file);
     const Crossings crossings = crossingsOf(drawing);
     tellUnknown(crossings);
-    if (!options.output.empty()) writeFile(options.output, svgOf(drawing, {layerOf(crossings)}));
+    if (!options.output.empty()) writeFile(options.output, svgOf(drawing, layersOf(crossings)));
     options.json ? printJson(drawing, crossings) : printTable(drawing, crossings);
 }
 
@@ -61,7 +61,7 @@ void addIntersect(CLI::App &app) {
         app.add_subcommand("intersect", "All pairs of entities that meet, with their points");
     addFileArgument(*command, *options);
     addJsonFlag(*command, *options);
-    command->add_option("-o,--output", options->output, "also draw them into this SVG file");
+    addPictureOption(*command, *options);
     command->footer("Example: draft intersect floor-plan.dxf -o crossings.svg");
     command->callback([options] { run(*options); });
 }

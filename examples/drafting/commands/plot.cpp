@@ -21,13 +21,11 @@ void run(const Options &options) {
     if (!options.plain) {
         const Crossings crossings = crossingsOf(drawing);
         tellUnknown(crossings);
-        results.push_back(layerOf(crossings));
+        results = layersOf(crossings);
     }
     writeFile(options.output, svgOf(drawing, results));
-    std::cout << options.output << ": " << inventory(drawing);
-    for (const ResultLayer &layer : results)
-        std::cout << ", " << layer.name;
-    std::cout << "\n";
+    std::cout << options.output << ": " << inventory(drawing)
+              << (results.empty() ? "" : "; " + summary(results)) << "\n";
 }
 
 } // namespace
