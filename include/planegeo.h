@@ -568,16 +568,19 @@ PLANEGEO_API int32_t PLANEGEO_CALL sb_inslc(const DTPOINT *a1, const DTPOINT *a2
 /** @} */
 
 /** @defgroup circleCircle Circles with circles
+ *  The arc functions keep the points that lie on both arcs. Ends belong to their
+ *  arc with 0.0001 degrees of slack, which does not reach back across 0: on an arc
+ *  that starts at 0 a point at 359.99997 is off. Of the angles only a negative one
+ *  is changed: it is raised by 360, twice where it lies below -360.
  *  @{ */
 
 /**
  * Intersects two full circles, with tolerances of its own.
  *
  * Circles touch when the distance of the centres differs from the sum or from the
- * difference of the radii by at most 1e-6. The point of an outer or inner touch lies on
- * the line of the centres; between equal radii (within 1e-12) it is the midpoint
- * of the centres. Centres nearer than 1e-6 count as concentric, without points
- * even when the circles are equal.
+ * difference of the radii by at most 1e-6; the one point lies on the line of the
+ * centres, between equal radii (within 1e-12) midway. Centres nearer than 1e-6
+ * count as concentric, without points even when the circles are equal.
  *
  * @param[in]  c1,r1,c2,r2 centre and radius of each circle; radii are not checked
  * @param[out] out four doubles x, y, x, y. Of two points the first lies right of
@@ -592,22 +595,16 @@ PLANEGEO_API int32_t PLANEGEO_CALL a2dCrs2C(const DTPOINT *c1, double r1, const 
 /**
  * Intersects two arcs, with errdist.
  *
- * A point is kept when it lies on both arcs. A range with equal ends, or ends 360
- * apart (within 1e-8), is a full circle; other ends belong to their arc with
- * 0.0001 degrees of slack, which does not reach back across 0: on an arc that
- * starts at 0 a point at 359.99997 is off. Of the ranges only a negative angle is
- * raised, by 360.
- *
- * Arcs of one circle (centres and radii equal within errdist) meet only where one
- * ends and the other begins: first the start of arc 1, then its end. Where they
- * overlap they have no point.
+ * Equal angles, or angles 360 apart (within 1e-8), mean the full circle. Arcs of
+ * one circle (centres and radii equal within errdist) meet only where one ends and
+ * the other begins: first the start of arc 1, then its end. An overlap has no point.
  *
  * @param[in]  c1,c2,r1,r2 centres, then radii
  * @param[in]  angles1,angles2 start and end of each arc, degrees
- * @param[out] out1,out2 the points kept, the one right of the direction from c1 to
- *                 c2 first; a single point in both. (0, 0) in both when the ranges
- *                 keep none; untouched when the circles do not meet, when concentric
- *                 arcs share no end, and when the result is 1
+ * @param[out] out1,out2 the points, the one right of the direction from c1 to c2
+ *                 first; a single point in both. (0, 0) in both when the ranges keep
+ *                 none; untouched when the circles do not meet, when arcs of one
+ *                 circle share no end, and when the result is 1
  * @param[out] count number of points, always written
  * @return 0 done, with or without points; 1 when the arcs are identical (radii,
  *         centres and angles within errdist) or a radius is not positive

@@ -44,8 +44,8 @@ TEST(ArcThroughPoints, runsAnticlockwiseAndKnowsNoArc) {
         {"straight", {1, 1}, {2, 2}, {4, 4}, 1, kNoArc},
         {"p1 p2 0.5e-6 apart", {1, 1}, {1, 1 + 0.5e-6}, {4, 5}, 1, kNoArc},
         {"p2 p3 0.5e-6 apart", {4, 5}, {1, 1}, {1, 1 + 0.5e-6}, 1, kNoArc},
-        {"p1 p3 0.5e-6 apart", {1, 1}, {4, 5}, {1, 1 + 0.5e-6}, 1, kNoArc},
-        {"all sines 0.9e-4", {0, 0}, {1, 0}, {2, e}, 1, kNoArc},
+        {"p1 p3 0.5e-6 apart", {1, 1}, {1 + 2e-6, 1}, {1, 1 + 0.5e-6}, 1, kNoArc},
+        {"sines of 0.9e-4 at most", {1, 1}, {4, 1}, {7, 1 + 3 * e}, 1, kNoArc},
     };
     for (const auto &c : cases) {
         Arc got;
@@ -53,8 +53,8 @@ TEST(ArcThroughPoints, runsAnticlockwiseAndKnowsNoArc) {
         expectArc(got, c.want, 16 * kEpsilon, c.about);
     }
     Arc got;
-    EXPECT_EQ(arcThrough({0, 0}, {1, 0}, {2, 2.2e-4}, got), 0) << "all sines above 1e-4";
-    EXPECT_EQ(arcThrough({0, 0}, {1, 0}, {0, e}, got), 0) << "one small sine makes an arc";
+    EXPECT_EQ(arcThrough({1, 1}, {4, 1}, {7, 1 + 3.3e-4}, got), 0) << "one sine of 1.1e-4";
+    EXPECT_EQ(arcThrough({1, 1}, {4, 1}, {1, 1 + 3.3e-4}, got), 0) << "two large sines";
 }
 
 TEST(ArcThroughPoints, findsAChosenArc) {
@@ -97,6 +97,8 @@ TEST(ArcOverChord, choosesTheSideAndRejectsWhatIsTooSmall) {
         {"across 0", {{4, 2}, 1, {-90, 90}}, 0, 0, 0.5, {4, 3}, {4, 1}},
         {"ratio 0.9e-6", kUntouchedArc, 1, 0, 0.9e-6, {3, 4}, {5, 4}},
         {"ratio 2e-6 is straight", kNoArc, 1, 0, 2e-6, {3, 4}, {5, 4}},
+        {"middle rounded to p", kUntouchedArc, 1, 0, 0.05, {1e12, 0}, {1e12 + 0.00305, 0}},
+        {"middle rounded to q", kUntouchedArc, 1, 0, 0.05, {1e12 + 0.00305, 0}, {1e12, 0}},
         {"chord 0.002", kUntouchedArc, 1, 0, 0.5, {3, 4}, {3.002, 4}},
         {"chord 0.004", {{0.002, 0}, 0.002, {0, 180}}, 0, 0, 0.5, {0, 0}, {0.004, 0}},
     };

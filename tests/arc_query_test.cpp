@@ -28,7 +28,7 @@ TEST(ArcBox, takesInTheAxisDirectionsOfTheRange) {
     } const cases[] = {
         {0, 90, {2, 2}, {0, 0}},       {45, 135, {h, 2}, {-h, h}}, {-45, 45, {2, h}, {h, -h}},
         {-315, -225, {h, 2}, {-h, h}}, {0, 360, {2, 2}, {-2, -2}}, {-350, 10, {2, 2}, {-2, -2}},
-        {315, 45, {h, h}, {h, -h}}, // not normalised: the ends only
+        {315, 405, {2, h}, {h, -h}},   {315, 45, {h, h}, {h, -h}}, // not normalised: the ends only
     };
     for (const auto &c : cases) {
         DTPOINT max, min;
@@ -49,8 +49,9 @@ TEST(OnArcRange, asksTheDirectionOnly) {
         int32_t status;
     } const cases[] = {
         {"inside", 0, 90, 45, 0},
-        {"a turn up", 350, 370, 5, 0},
-        {"a turn down", -370, -350, 5, 0},
+        {"a turn up", 364.5, 370, 5, 0},
+        {"a turn down", -370, -354.5, 5, 0},
+        {"180 stays", 170, 190, 180, 0},
         {"above 180 is negative", -100, -80, 270, 0},
         {"outside", 0, 90, 135, 1},
         {"equal ends hold only their direction", 30, 30, 200, 1},
@@ -91,7 +92,9 @@ TEST(TurnedArc, keepsAnglesWithinATurnAndFullCirclesWhole) {
         double start, end, rot, wantStart, wantEnd;
     } const cases[] = {
         {"lowered when the end passes a turn", 5, 6, 1, 6 - turn, 7 - turn},
+        {"lowered when the start alone does", 6, 1, 1, 7 - turn, 2 - turn},
         {"raised when the start passes back", -6, -5, -1, turn - 7, turn - 6},
+        {"raised when the end alone does", -5, -6, -1, turn - 6, turn - 7},
         {"lowered once only", 0.5, 1, 15, 15.5 - turn, 16 - turn},
         {"no extent is a full circle", 1, 1, 1, 0, turn},
         {"0.5e-7 short of a turn", 1, 1 + turn - 0.5e-7, 1, 0, turn},
@@ -117,8 +120,10 @@ TEST(AlongArc, reachesAnAngle) {
         const char *about;
         double r, start, end, dist, want; // kUntouched where the input is invalid
     } const cases[] = {
-        {"inside", 2, 30, 120, kPi / 2, 75},
-        {"beyond the end", 1, 0, 90, 10, 90},
+        {"inside", 2, 300, 390, kPi / 2, 345},
+        {"nothing", 2, 30, 120, 0, 30},
+        {"no extent", 2, 30, 30, 1, 30},
+        {"beyond the end", 1, 30, 120, 2, 120},
         {"a whole turn", 1, -10, 350, kPi, 170},
         {"negative distance", 1, 0, 90, -1e-9, kUntouched},
         {"radius 0", 0, 0, 90, 1, kUntouched},
@@ -154,7 +159,7 @@ TEST(KeptEndOfArc, followsFlagAndAttributeBits) {
         {"other bits mean nothing", 0, kOther, kOther, 120, 140, 130},
         {"the other end does not help", 0, 0, 0, 30, 50, kNone},
         {"nor for the start", 1, 0, 0, 120, 140, kNone},
-        {"full circle: the end in spite of the flag", 1, 0, 0, 0, 360, 130},
+        {"full circle: the end in spite of the flag", 1, 0, 0, 7, 367, 130},
         {"full circle, reversed: the start", 1, kRev, 0, 0, 360, 40},
         {"0.5e-8 short of full", 1, 0, 0, 0, 360 - 0.5e-8, 130},
         {"2e-8 short of full asks the flag", 1, 0, 0, 0, 360 - 2e-8, 40},
@@ -177,7 +182,7 @@ TEST(KeptEndOfArc, followsFlagAndAttributeBits) {
     }
     const DTARC elem = {0, 3, -2, 2, 40, 130};
     const DTARC off[] = {
-        {0, 3 + 2e-6, -2, 2, 0, 360}, {0, 3, -2 + 2e-6, 2, 0, 360}, {0, 3, -2, 2 - 2e-6, 0, 360}};
+        {0, 3 + 2e-6, -2, 2, 0, 360}, {0, 3, -2 + 2e-6, 2, 0, 360}, {0, 3, -2, 2 + 2e-6, 0, 360}};
     for (const DTARC &cut : off)
         EXPECT_EQ(a2d_InsDc(&elem, &cut, nullptr), -1);
     const DTARC near = {0, 3 + 0.5e-6, -2 - 0.5e-6, 2 + 0.5e-6, 0, 360};

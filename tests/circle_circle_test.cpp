@@ -55,9 +55,9 @@ TEST(CrossCircles, countsAndOrdersThePoints) {
         {"up, right is east", 1, {0, 1}, 1, {{h, 0.5}, {-h, 0.5}}},
         {"different radii", 5, {4, 0}, 3, {{4, -3}, {4, 3}}},
         {"equal radii touch midway", 1, {2 + 0.5e-6, 0}, 1, {{1 + 0.25e-6, 0}}},
-        {"touch from outside", 2, {0, 3 + 0.5e-6}, 1, {{0, 2 + 0.5e-6 * 2 / 3}}},
-        {"2e-6 apart", 2, {0, 3 + 2e-6}, 1, {}},
-        {"touch from inside", 2, {1 - 0.5e-6, 0}, 1, {{2 - 1e-6, 0}}},
+        {"touch from outside", 2, {0, 5 + 0.5e-6}, 3, {{0, 2 + 0.5e-6 * 2 / 5}}},
+        {"2e-6 apart", 2, {0, 5 + 2e-6}, 3, {}},
+        {"touch from inside", 5, {2 - 0.5e-6, 0}, 3, {{5 - 0.5e-6 * 5 / 2, 0}}},
         {"from inside, the other larger", 1, {-1, 0}, 2, {{1, 0}}},
         {"2e-6 within", 2, {1 - 2e-6, 0}, 1, {}},
         {"equal circles", 1, {0, 0}, 1, {}},
@@ -123,7 +123,9 @@ TEST(CrossArcs, keepsThePointsOnBothRanges) {
         {"0.0002 beyond the end", {0, up - 0.0002}, {0, 360}, {}},
         {"0.00005 before the start", {up + 0.00005, 90}, {0, 360}, {{4, 3}}},
         {"0.0002 before the start", {up + 0.0002, 90}, {0, 360}, {}},
-        {"across 0", {270, 90}, {0, 360}, {{4, -3}, {4, 3}}},
+        {"across 0 up to the point", {300, up}, {0, 360}, {{4, -3}, {4, 3}}},
+        {"across 0 but short of it", {300, up - 0.5}, {0, 360}, {{4, -3}}},
+        {"a whole turn far below 0", {-1000, -640}, {0, 360}, {{4, -3}, {4, 3}}},
         {"-720 to -630 is raised twice, to 0 to 90", {-720, -630}, {0, 360}, {{4, 3}}},
     };
     for (const auto &c : cases) {
@@ -134,6 +136,13 @@ TEST(CrossArcs, keepsThePointsOnBothRanges) {
     const DTPOINT below = polar({0, 0}, 3, 359.99997);
     expectArcs("the slack does not reach back across 0", {{0, 0}, 2, {0, 90}}, {below, 1, {0, 360}},
                0, {}, Without::cleared);
+    // The touch so little below the x axis that its direction is exactly 360, which counts as 0.
+    const DTPOINT c1 = {0, 0}, c2 = {3, -1e-17};
+    const double quarter[2] = {0, 90}, full[2] = {0, 360};
+    DTPOINT out1, out2;
+    uint16_t count = 0;
+    EXPECT_EQ(a2d_ins2c(&c1, &c2, 2, 1, quarter, full, &out1, &out2, &count), 0);
+    EXPECT_EQ(count, 1);
     // A point a rounding below the x axis would lie at 360, off an arc that starts at 0.
     expectArcs("exact on a grid", {{0, 0}, 1, {0, 90}}, {{1, 1}, 1, {180, 270}}, 0,
                {{1, 0}, {0, 1}});
@@ -159,6 +168,7 @@ TEST(CrossArcs, touchWithinErrdistFromTheLargerCircle) {
         {"0.5e-6 apart, the other larger", 1, {0, 3 + 0.5e-6}, 2, {{0, 1 + 0.5e-6}}},
         {"2e-6 apart", 2, {3 + 2e-6, 0}, 1, {}},
         {"0.5e-6 within", 2, {1 - 0.5e-6, 0}, 1, {{2, 0}}},
+        {"0.5e-6 within, the other larger", 1, {1 - 0.5e-6, 0}, 2, {{-1 - 0.5e-6, 0}}},
         {"2e-6 within", 2, {1 - 2e-6, 0}, 1, {}},
     };
     for (const auto &c : cases) {
@@ -176,6 +186,9 @@ TEST(CrossArcs, rejectIdenticalArcsAndBadRadii) {
     } const cases[] = {
         {"within errdist", {{1 + 0.5e-6, 1}, 2, {10, 20 + 0.5e-6}}, 1},
         {"another end is another arc", {{1, 1}, 2, {10, 20 + 2e-6}}, 0},
+        {"another start", {{1, 1}, 2, {10 - 2e-6, 20}}, 0},
+        {"another radius", {{1, 1}, 2 + 2e-6, {10, 20}}, 0},
+        {"another centre", {{1, 9}, 2, {10, 20}}, 0},
         {"-350 is 10", {{1, 1}, 2, {-350, -340}}, 1},
         {"radius zero", {{5, 1}, 0, {10, 20}}, 1},
         {"radius negative", {{5, 1}, -2, {10, 20}}, 1},

@@ -75,7 +75,7 @@ TEST(CommonTangents, comeInPairsAndOrder) {
         {"inside, squares 0.9e-6 apart", 2, {1 + 0.45e-6, 0}, 1, {}},
         {"concentric", 2, {0.9e-6, 0.9e-6}, 2, {}},
         {"radius 0", 0, {4, 0}, 1, {}},
-        {"negative radius", 1, {4, 0}, -1, {}},
+        {"the other radius 0", 1, {4, 0}, 0, {}},
     };
     for (const auto &c : cases) {
         const Tangents got = commonTangents(kOrigin, c.r1, shifted(c.c2), c.r2);
