@@ -37,24 +37,26 @@ struct ExtentsOf {
         return box;
     }
     Box operator()(const DTARC &arc) const {
+        const DTPOINT center = {arc.cx, arc.cy};
+        DTPOINT upper;
+        DTPOINT lower;
+        ca_arcXY(&center, arc.r, arc.start, arc.end, &upper, &lower);
+        return {lower.x, lower.y, upper.x, upper.y};
+    }
+    /// ca_elamn() may leave out an end of the arc, so the box is made here: of the ends, and of
+    /// the points on the arc whose tangents are upright or level.
+    Box operator()(const DTELLIPSE &e) const {
+        const DTPOINT center = {e.cx, e.cy};
         Box box;
-        box.widen(pointAt(arc, arc.start));
-        box.widen(pointAt(arc, arc.end));
-        for (const double quadrant : {0.0, 90.0, 180.0, 270.0}) {
-            if (a2d_ChkDegr(arc.start, arc.end, quadrant) == 0) box.widen(pointAt(arc, quadrant));
+        box.widen(pointAt(e, e.start));
+        box.widen(pointAt(e, e.end));
+        for (const double direction : {0.0, 90.0}) {
+            std::array<DTPOINT, 2> extremes{};
+            ca_elaln(&center, e.a, e.b, e.rot, direction, &extremes[0], &extremes[1]);
+            for (const DTPOINT extreme : extremes)
+                if (CheckEllipseArcAngle(&e, &extreme) == 0) box.widen(extreme);
         }
         return box;
-    }
-    /// Of the whole ellipse, also for an arc.
-    Box operator()(const DTELLIPSE &e) const {
-        const double c = cosd(e.rot);
-        const double s = sind(e.rot);
-        const DTPOINT origin = {0.0, 0.0};
-        const DTPOINT acrossX = {e.a / 2.0 * c, e.b / 2.0 * s};
-        const DTPOINT acrossY = {e.a / 2.0 * s, e.b / 2.0 * c};
-        const double halfWidth = ca_dstpt(&origin, &acrossX);
-        const double halfHeight = ca_dstpt(&origin, &acrossY);
-        return {e.cx - halfWidth, e.cy - halfHeight, e.cx + halfWidth, e.cy + halfHeight};
     }
 };
 

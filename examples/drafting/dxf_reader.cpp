@@ -22,6 +22,7 @@ constexpr double kDegPerRad = 57.29577951308232;
 constexpr double kFullTurnDeg = 360.0;
 /// Files write a whole turn of an ellipse as 2 pi with as few as five decimals.
 constexpr double kFullEllipseSlackDeg = 1e-3;
+constexpr const char *kNearlyFlat = "polyline arc of almost no height, now a line";
 constexpr int kPolylineClosed = 1;
 constexpr int kPolylineInSpace = 8;
 
@@ -143,11 +144,15 @@ class Collector : public DL_CreationAdapter {
 
     void finishPolyline() {
         if (!std::exchange(inPolyline_, false)) return;
-        Polyline polyline{segmentsOf(vertices_, closed_, leftOut_[block_]), closed_,
-                          polylineLayer_};
-        for (Shape &segment : polyline.segments)
-            segment = placed(segment, polylinePlane_);
-        if (!polyline.segments.empty()) blocks_[block_].items.emplace_back(std::move(polyline));
+        Segments segments = segmentsOf(vertices_, closed_);
+        for (Shape &shape : segments.shapes)
+            shape = placed(shape, polylinePlane_);
+        if (!segments.shapes.empty()) {
+            blocks_[block_].items.emplace_back(
+                Polyline{std::move(segments.shapes), closed_, polylineLayer_});
+        }
+        leaveOut("polyline segment of no length", segments.ofNoLength);
+        if (segments.nearlyFlat > 0) drawing_.simplified[kNearlyFlat] += segments.nearlyFlat;
         if (vertices_.size() < 2) leaveOut("polyline of fewer than two vertices");
         vertices_.clear();
     }
@@ -159,7 +164,9 @@ class Collector : public DL_CreationAdapter {
         return found->second;
     }
 
-    void leaveOut(const std::string &kind) { ++leftOut_[block_][kind]; }
+    void leaveOut(const std::string &kind, std::size_t count = 1) {
+        if (count > 0) leftOut_[block_][kind] += count;
+    }
     void noteHeight(const std::string &kind, bool has) {
         if (has) ++drawing_.simplified[kind + " off the plane z = 0"];
     }

@@ -27,10 +27,12 @@ int run(int argc, char **argv) {
                "Examples:\n"
                "  draft intersect floor-plan.dxf\n"
                "  draft intersect floor-plan.dxf --json | jq '.crossings | length'\n"
+               "  draft tangents machine-part.dxf --from 200,0\n"
                "  draft measure machine-part.dxf\n"
                "  draft divide machine-part.dxf --pieces 12\n"
                "  draft plot machine-part.dxf -o machine-part.svg");
     draft::addIntersect(app);
+    draft::addTangents(app);
     draft::addMeasure(app);
     draft::addDivide(app);
     draft::addPlot(app);

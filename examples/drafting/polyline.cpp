@@ -1,49 +1,49 @@
 #include "polyline.h"
 
-#include <cmath>
+#include <array>
+#include <optional>
 
 namespace draft {
 
 namespace {
 
-/// A bulge that lifts the segment by less than this share of its length makes no arc.
-constexpr double kFlatBulge = 1e-9;
-
-/// The chord's ends and the arc's middle, which lies right of the chord for a positive bulge.
-Shape arcOver(DTPOINT from, DTPOINT to, double bulge) {
-    const DTPOINT chord = {to.x - from.x, to.y - from.y};
-    const double height = (1.0 - bulge * bulge) / (4.0 * bulge);
-    const DTPOINT center = {(from.x + to.x) / 2.0 - height * chord.y,
-                            (from.y + to.y) / 2.0 + height * chord.x};
-    const DTPOINT first = bulge > 0.0 ? from : to;
-    const DTPOINT last = bulge > 0.0 ? to : from;
-    DTARC arc = {bulge > 0.0 ? 0 : PLANEGEO_ATTR_REVERSED,
-                 center.x,
-                 center.y,
-                 ca_dstpt(&center, &from),
-                 atan2d(first.y - center.y, first.x - center.x),
-                 atan2d(last.y - center.y, last.x - center.x)};
-    a2d_StdSedeg(&arc.start, &arc.end);
-    return arc;
+/// The arc over a chord, through the point that lies the bulge times half the chord right of the
+/// chord's middle; none where the library finds the three points in one line.
+std::optional<DTARC> arcOver(DTPOINT from, DTPOINT to, double bulge) {
+    const DTPOINT middle = {(from.x + to.x + bulge * (to.y - from.y)) / 2.0,
+                            (from.y + to.y - bulge * (to.x - from.x)) / 2.0};
+    DTPOINT center;
+    double r = 0.0;
+    std::array<double, 2> angles{};
+    if (ca_arc3p(&from, &middle, &to, &center, &r, angles.data()) != 0) return {};
+    a2d_StdSedeg(&angles[0], &angles[1]);
+    return DTARC{
+        bulge > 0.0 ? 0 : PLANEGEO_ATTR_REVERSED, center.x, center.y, r, angles[0], angles[1]};
 }
 
-Shape segment(const Vertex &from, DTPOINT to) {
-    if (std::fabs(from.bulge) < kFlatBulge) return DTLINE{0, from.at.x, from.at.y, to.x, to.y};
-    return arcOver(from.at, to, from.bulge);
+void addSegment(Segments &segments, const Vertex &from, DTPOINT to) {
+    const std::optional<DTARC> arc =
+        from.bulge == 0.0 ? std::nullopt : arcOver(from.at, to, from.bulge);
+    if (arc) {
+        segments.shapes.emplace_back(*arc);
+    } else {
+        if (from.bulge != 0.0) ++segments.nearlyFlat;
+        segments.shapes.emplace_back(DTLINE{0, from.at.x, from.at.y, to.x, to.y});
+    }
 }
 
 } // namespace
 
-std::vector<Shape> segmentsOf(const std::vector<Vertex> &vertices, bool closed, Tally &leftOut) {
-    std::vector<Shape> segments;
+Segments segmentsOf(const std::vector<Vertex> &vertices, bool closed) {
+    Segments segments;
     const std::size_t count = vertices.size();
-    const std::size_t last = closed && count > 1 ? count : count - (count > 0 ? 1 : 0);
-    for (std::size_t i = 0; i < last; ++i) {
+    for (std::size_t i = 0; i < count; ++i) {
+        if (i + 1 == count && (!closed || count == 1)) break;
         const DTPOINT to = vertices[(i + 1) % count].at;
-        if (ca_dstpt(&vertices[i].at, &to) < ca_geterrdist()) {
-            ++leftOut["polyline segment of no length"];
+        if (isTogether(vertices[i].at, to)) {
+            ++segments.ofNoLength;
         } else {
-            segments.push_back(segment(vertices[i], to));
+            addSegment(segments, vertices[i], to);
         }
     }
     return segments;

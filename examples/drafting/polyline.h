@@ -12,7 +12,12 @@ struct Vertex {
     double bulge; ///< of the segment to the next vertex: tan(sweep / 4), positive anticlockwise
 };
 
-/// Lines, and arcs where a segment bulges; a segment of no length is left out, and counted.
-std::vector<Shape> segmentsOf(const std::vector<Vertex> &vertices, bool closed, Tally &leftOut);
+struct Segments {
+    std::vector<Shape> shapes;  ///< lines, and arcs where a segment bulges
+    std::size_t ofNoLength = 0; ///< left out
+    std::size_t nearlyFlat = 0; ///< lines instead of arcs that bulge by less than a ten-thousandth
+};
+
+Segments segmentsOf(const std::vector<Vertex> &vertices, bool closed);
 
 } // namespace draft

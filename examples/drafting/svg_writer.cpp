@@ -192,6 +192,14 @@ std::string legend(const Drawing &drawing, const std::vector<ResultLayer> &resul
     return keys.text() + found.text();
 }
 
+Box extentsOf(const Drawing &drawing, const std::vector<ResultLayer> &results) {
+    Box box = draft::extentsOf(drawing);
+    for (const ResultLayer &layer : results)
+        for (const DTPOINT point : layer.points)
+            box.widen(point);
+    return box;
+}
+
 std::string heading(const Drawing &drawing, const Page &page) {
     const std::string name = std::filesystem::path(drawing.path).filename().string();
     const std::string x = pixels(page.left());
@@ -203,7 +211,7 @@ std::string heading(const Drawing &drawing, const Page &page) {
 } // namespace
 
 std::string svgOf(const Drawing &drawing, const std::vector<ResultLayer> &results) {
-    const Page page(extentsOf(drawing));
+    const Page page(extentsOf(drawing, results));
     const std::string width = pixels(page.width());
     const std::string height = pixels(page.height());
     const std::string area = "x=\"" + pixels(page.left()) + "\" y=\"" + pixels(page.top()) +

@@ -9,5 +9,6 @@ void addDivide(CLI::App &app);
 void addIntersect(CLI::App &app);
 void addMeasure(CLI::App &app);
 void addPlot(CLI::App &app);
+void addTangents(CLI::App &app);
 
 } // namespace draft

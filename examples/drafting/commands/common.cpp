@@ -34,6 +34,14 @@ void addPictureOption(CLI::App &command, CommonOptions &options) {
     command.add_option("-o,--output", options.output, "also draw the answer into this SVG file");
 }
 
+void addPointOption(CLI::App &command, const std::string &name, std::vector<double> &point,
+                    const std::string &what) {
+    command.add_option(name, point, what)
+        ->delimiter(',')
+        ->expected(2)
+        ->check(CLI::Range(-1e12, 1e12));
+}
+
 void addEntityOption(CLI::App &command, std::vector<std::size_t> &numbers,
                      const std::string &what) {
     command.add_option("-e,--entity", numbers, what + ", by their numbers (3 7, or 3,7)")
