@@ -920,6 +920,65 @@ PLANEGEO_API int32_t PLANEGEO_CALL amaSolveEquationOf4thD(const double *c, doubl
  */
 PLANEGEO_API DTCOMPLEX PLANEGEO_CALL ama_c_sqrt(DTCOMPLEX z);
 
+/**
+ * Searches one real root by Newton's method, from minus the sum of the coefficients
+ * over n + 1.
+ *
+ * The search ends with the first of 200 steps that is at most 1e-16 of the largest
+ * coefficient, or if there is none with the first that is at most 1e-6 of it: not of
+ * the root, so that polynomials with large coefficients are left early. Where the
+ * slope is exactly zero a step of second order is made; where that has no real
+ * value the step is zero, and the stationary point counts as the root.
+ *
+ * @param[in]  c n + 1 coefficients
+ * @param[in]  n degree, 2 to 1000
+ * @param[out] x the root, the last iterate when the result is -2; untouched when -1
+ * @return 0 found; -1 also for a degree out of range; -2 no step was small enough
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL amaNewtonRaphson(const double *c, int32_t n, double *x);
+
+/**
+ * Finds all roots by quadratic factors (Bairstow), up to degree four in closed form.
+ *
+ * Not reliable above: the best residual is never reset, and a factor may be found
+ * twice. All roots were right, mirrored ones aside, for 97 % of polynomials with
+ * random coefficients of degree 5, 63 % of degree 6, 7 % of degree 10, none of
+ * degree 19. Take amaDKA() there.
+ *
+ * @param[in]  c   n + 1 coefficients
+ * @param[in]  n   degree, 1 to 1000
+ * @param[out] out n pairs; degree 1: one double. Above degree 4 the last factor comes
+ *                 first, the Newton root of an odd degree last; a discriminant down
+ *                 to -0.0001 counts as real; the second root of a complex pair is
+ *                 (-re, im), not the conjugate
+ * @return 0 done; -1 also for a degree out of range; -2 a factor was not found, which
+ *         x^2 + x + 1 as the first one never is; -3 the Newton root was not found.
+ *         After -2 and -3 out is untouched but for the last pair of an odd degree:
+ *         the Newton root, or after -3 its last iterate without an imaginary part
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL amaBairstaw(const double *c, int32_t n, double *out);
+
+/**
+ * Finds all roots at once (Durand-Kerner, from Aberth's circle about the origin).
+ *
+ * Sweeps end when all values met in one are below eps, or with the budget. Roots that
+ * repeat themselves bit by bit are carried to its end at once; without that, 10^7
+ * sweeps, or 10^9 / n^2 if fewer, are as a budget used up. A NaN does not count as a
+ * large value: where all are NaN, as with c[2] to c[n] all zero, so are the roots,
+ * and the result is 0.
+ *
+ * @param[in,out] c       n + 1 coefficients; c[1] to c[n] are divided by c[0]
+ * @param[in]     n       degree, up to 1000; below 1 nothing is written, and the
+ *                        result is 0 if eps > 0 and maxiter >= 0, else -1
+ * @param[in]     eps     bound of |value| after that division
+ * @param[in]     maxiter budget of floor(maxiter) + 1 sweeps; none if negative or NaN
+ * @param[out]    out     n pairs; imaginary parts below the root of eps become 0
+ * @return 0 converged, or else at least one imaginary part became 0; -1 neither, or
+ *         a degree above 1000 (c and out are untouched then)
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL amaDKA(double *c, int32_t n, double eps, double maxiter,
+                                          double *out);
+
 /** @} */
 
 /** @defgroup ellipses Ellipses: record and parameter conversion

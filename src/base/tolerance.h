@@ -69,6 +69,16 @@ inline constexpr double kLargestMergeDeg = 5.0;
 /// both ignored: the quartic then counts as biquadratic.
 inline constexpr double kBiquadraticLinearTerm = 1e-5;
 inline constexpr double kBiquadraticRatio = 1e-12;
+/// Newton step over the largest coefficient that ends the search at once (<=), and that ends it
+/// where none is so small.
+inline constexpr double kNewtonTightStep = 1e-16;
+inline constexpr double kNewtonLooseStep = 1e-6;
+/// Residual of a quadratic factor over the largest coefficient: so small that the factor is
+/// taken at once (<=), and large enough never to be taken (improved on when <).
+inline constexpr double kBairstowExactResidual = 1e-100;
+inline constexpr double kBairstowWorstResidual = 1e-6;
+/// Discriminant of a quadratic factor with real roots (>=): slightly negative ones count as zero.
+inline constexpr double kBairstowRealDiscriminant = -0.0001;
 
 // Ellipses: record, queries, transforms.
 

@@ -8,7 +8,10 @@
 
 #include "solver/closed_form.h"
 
+#include <cmath>
+
 #include "base/tolerance.h"
+#include "base/vec2.h"
 
 namespace {
 
@@ -163,24 +166,6 @@ Roots<4> solveShifted(const ShiftedQuartic &quartic) {
     const double s = std::sqrt(z - quartic.p);
     if (s == 0.0) return solveBiquadratic(quartic);
     return solveByFactors(quartic, z, s);
-}
-
-template <std::size_t Degree> Polynomial<Degree> load(const double *c) {
-    Polynomial<Degree> polynomial;
-    for (std::size_t i = 0; i <= Degree; ++i) {
-        polynomial[i] = c[i];
-    }
-    return polynomial;
-}
-
-/// Writes the pairs, unless there are none.
-template <std::size_t Degree> std::int32_t store(const Roots<Degree> &roots, double *out) {
-    if (roots.realCount == kNoLeadingCoefficient) return kNoLeadingCoefficient;
-    for (std::size_t k = 0; k < Degree; ++k) {
-        out[2 * k] = roots.root[k].re;
-        out[2 * k + 1] = roots.root[k].im;
-    }
-    return roots.realCount;
 }
 
 } // namespace

@@ -1,0 +1,183 @@
+// All roots of a polynomial at once: the iteration of Durand and Kerner from Aberth's circle.
+//
+// Whether a sweep changes anything hangs on the last bit: every expression stands in the order
+// that hosts have always had.
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+
+#include "base/vec2.h"
+#include "planegeo.h"
+#include "solver/polynomial.h"
+
+namespace {
+
+using namespace planegeo;
+
+using RootTable = std::array<Complex, kMaxDegree>;
+
+constexpr Complex operator-(Complex z, Complex w) { return {z.re - w.re, z.im - w.im}; }
+constexpr Complex operator*(Complex z, Complex w) {
+    return {z.re * w.re - z.im * w.im, z.re * w.im + z.im * w.re};
+}
+
+/// Smith's quotient, scaled by the larger part of the divisor. A zero divisor gives NaN.
+Complex operator/(Complex z, Complex w) {
+    if (std::fabs(w.re) >= std::fabs(w.im)) {
+        const double ratio = w.im / w.re;
+        const double scale = w.re + w.im * ratio;
+        return {(z.re + z.im * ratio) / scale, (z.im - z.re * ratio) / scale};
+    }
+    const double ratio = w.re / w.im;
+    const double scale = w.re * ratio + w.im;
+    return {(z.re * ratio + z.im) / scale, (z.im * ratio - z.re) / scale};
+}
+
+/// n times the largest |c[k]|^(1/k). c[1] is left out on purpose.
+double startRadius(const double *c, int n) {
+    double radius = 0.0;
+    for (int k = 2; k <= n; ++k) {
+        const double candidate = n * std::pow(std::fabs(c[k]), 1.0 / k);
+        if (candidate > radius) radius = candidate;
+    }
+    return radius;
+}
+
+/// A circle about the origin, not about the mean of the roots. A radius of zero is not asked for:
+/// from the second degree on it divides by zero in the first sweep, and roots become NaN.
+void placeOnCircle(RootTable &z, const double *c, int n) {
+    const double radius = startRadius(c, n);
+    for (int k = 0; k < n; ++k) {
+        const double angle = kTwoPi * k / n + kPi / (2.0 * n);
+        z[static_cast<std::size_t>(k)] = {radius * std::cos(angle), radius * std::sin(angle)};
+    }
+}
+
+/// The polynomial with the leading coefficient 1.
+Complex evaluate(const double *c, int n, Complex z) {
+    Complex sum = {1.0, 0.0};
+    for (int k = 1; k <= n; ++k) {
+        sum = sum * z;
+        sum.re += c[k];
+    }
+    return sum;
+}
+
+/// Moves every root in its turn, against those that this sweep has moved already. Returns the
+/// largest |value| met, before the moves; a NaN is no largest.
+double sweep(RootTable &z, const double *c, int n) {
+    double residual = 0.0;
+    const auto count = static_cast<std::size_t>(n);
+    for (std::size_t i = 0; i < count; ++i) {
+        const Complex value = evaluate(c, n, z[i]);
+        Complex product = {1.0, 0.0};
+        for (std::size_t j = 0; j < count; ++j) {
+            if (j != i) product = product * (z[i] - z[j]);
+        }
+        const double size = std::hypot(value.re, value.im);
+        if (size > residual) residual = size;
+        z[i] = z[i] - value / product;
+    }
+    return residual;
+}
+
+/// Notices when the roots come back to where they were, bit by bit: from then on sweeps repeat
+/// themselves for ever, and whole periods of them can be left out. The roots are remembered after
+/// 1, 2, 4, 8, ... sweeps, so that a period is found however late it starts (Brent's method).
+class PeriodFinder {
+  public:
+    /// The period of the roots after `sweeps` sweeps, 0 as long as none is seen.
+    std::int64_t period(const RootTable &z, int n, std::int64_t sweeps) {
+        const auto count = static_cast<std::size_t>(n);
+        if (rememberedAt_ > 0 && areSame(z, count)) return sweeps - rememberedAt_;
+        if (sweeps >= 2 * rememberedAt_) {
+            std::copy_n(z.begin(), count, remembered_.begin());
+            rememberedAt_ = sweeps;
+        }
+        return 0;
+    }
+
+  private:
+    static bool isSame(double a, double b) {
+        std::uint64_t bitsA, bitsB;
+        std::memcpy(&bitsA, &a, sizeof a);
+        std::memcpy(&bitsB, &b, sizeof b);
+        return bitsA == bitsB;
+    }
+    bool areSame(const RootTable &z, std::size_t count) const {
+        for (std::size_t i = 0; i < count; ++i) {
+            if (!isSame(z[i].re, remembered_[i].re)) return false;
+            if (!isSame(z[i].im, remembered_[i].im)) return false;
+        }
+        return true;
+    }
+
+    RootTable remembered_;
+    std::int64_t rememberedAt_ = 0;
+};
+
+/// floor(budget) + 1 sweeps, none for a negative or NaN budget.
+std::int64_t sweepsFor(double budget) {
+    constexpr double kMost = 9e15; // every integer below it is a double
+    if (!(budget >= 0.0)) return 0;
+    return static_cast<std::int64_t>(budget < kMost ? budget : kMost) + 1;
+}
+
+/// The sweeps that are made as long as no period is seen: some seconds' worth.
+std::int64_t sweepLimit(int n) {
+    constexpr std::int64_t kMostSweeps = 10'000'000;
+    constexpr std::int64_t kMostProducts = 1'000'000'000;
+    return std::min(kMostSweeps, kMostProducts / (static_cast<std::int64_t>(n) * n));
+}
+
+/// Sweeps until the residual is below the bound or the budget is used up; tells which.
+bool iterate(RootTable &z, const double *c, int n, double bound, double budget) {
+    const std::int64_t wanted = sweepsFor(budget);
+    std::int64_t last = std::min(wanted, sweepLimit(n));
+    PeriodFinder finder;
+    for (std::int64_t made = 1; made <= last; ++made) {
+        if (sweep(z, c, n) < bound) return true;
+        const std::int64_t period = finder.period(z, n, made);
+        if (period > 0) last = made + (wanted - made) % period;
+    }
+    return false;
+}
+
+/// Makes roots real whose imaginary part is below the limit; returns how many.
+int snapToReal(RootTable &z, int n, double limit) {
+    int snapped = 0;
+    for (int k = 0; k < n; ++k) {
+        double &im = z[static_cast<std::size_t>(k)].im;
+        if (!(std::fabs(im) < limit)) continue;
+        im = 0.0;
+        ++snapped;
+    }
+    return snapped;
+}
+
+} // namespace
+
+extern "C" {
+
+int32_t amaDKA(double *c, int32_t n, double eps, double maxiter, double *out) {
+    if (n > kMaxDegree || c[0] == 0.0) return -1;
+    for (int k = 1; k <= n; ++k) {
+        c[k] = c[k] / c[0];
+    }
+    // Without roots the first sweep, if there is one, meets no value but zero.
+    if (n < 1) return maxiter >= 0.0 && eps > 0.0 ? 0 : -1;
+    RootTable z;
+    placeOnCircle(z, c, n);
+    const bool converged = iterate(z, c, n, eps, maxiter);
+    const int snapped = snapToReal(z, n, std::sqrt(eps));
+    for (int k = 0; k < n; ++k) {
+        store(z[static_cast<std::size_t>(k)], out + 2 * static_cast<std::ptrdiff_t>(k));
+    }
+    // A run that ended without converging still succeeds when any of its roots looks real.
+    return converged || snapped > 0 ? 0 : -1;
+}
+
+} // extern "C"
