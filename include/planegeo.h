@@ -903,7 +903,9 @@ PLANEGEO_API int32_t PLANEGEO_CALL amaSolveEquationOf3rdD(const double *c, doubl
  * The roots are those of two quadratic factors, each in the order of
  * amaSolveEquationOf2ndD(). Without a linear term in the shifted quartic (exactly
  * zero, or below 1e-5 and 1e-12 of the quadratic term) it is solved as biquadratic,
- * and also where the resolvent cubic gives no factors.
+ * and also where the resolvent cubic gives no factors. A linear term just above those
+ * bounds is lost to rounding: roots and their count can then be wrong, and where the
+ * resolvent's roots are NaN so are all four (docs/behaviours.md).
  *
  * @param[in]  c   five coefficients
  * @param[out] out four pairs; a factor with real roots before one without;

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 
@@ -46,8 +47,8 @@ double startRadius(const double *c, int n) {
     return radius;
 }
 
-/// A circle about the origin, not about the mean of the roots. A radius of zero is not asked for:
-/// from the second degree on it divides by zero in the first sweep, and roots become NaN.
+/// A circle about the origin, not about the mean of the roots. A radius of zero is let pass: from
+/// the second degree on the first sweep then divides by zero, and the roots are NaN.
 void placeOnCircle(RootTable &z, const double *c, int n) {
     const double radius = startRadius(c, n);
     for (int k = 0; k < n; ++k) {
