@@ -15,6 +15,16 @@ struct LineAndEllipse {
 struct TwoRecords {
     DTELLIPSE e1, e2;
 };
+struct TwoArcs {
+    double center1[2], center2[2];
+    double a1, a2, b1, b2, rot1, rot2; // a1 is twice the radius where the first is a circle
+    double angles1[2], angles2[2];
+};
+struct Points {
+    DTPOINT at[4];
+    double center[2];
+    double a, b, rot;
+};
 
 /// A line that passes the centre nearby: most cut the ellipse.
 LineAndEllipse lineAndEllipse(Random &random) {
@@ -55,6 +65,78 @@ TwoRecords sameEllipse(Random &random) {
     e2.start = random.angleDeg();
     return {e1, e2};
 }
+
+/// Through a common point, so that all cross; the first axes are the longer ones.
+TwoArcs twoArcs(Random &random) {
+    TwoArcs in = {{},           {},          random.length(),   random.length(),
+                  0.0,          0.0,         random.angleDeg(), random.angleDeg(),
+                  {0.0, 360.0}, {0.0, 360.0}};
+    in.b1 = in.a1 * random.uniform(0.1, 1.0);
+    in.b2 = in.a2 * random.uniform(0.1, 1.0);
+    const DTPOINT common = random.point();
+    const auto place = [&](double *center, double a, double b, double rot) {
+        const double t = random.angleDeg();
+        const double x = a / 2 * cosd(t), y = b / 2 * sind(t);
+        center[0] = common.x - x * cosd(rot) + y * sind(rot);
+        center[1] = common.y - x * sind(rot) - y * cosd(rot);
+    };
+    place(in.center1, in.a1, in.b1, in.rot1);
+    place(in.center2, in.a2, in.b2, in.rot2);
+    return in;
+}
+TwoArcs circleAndEllipse(Random &random) {
+    TwoArcs in = twoArcs(random);
+    const double t = random.angleDeg();
+    in.center1[0] += in.a1 / 2 * cosd(t);
+    in.center1[1] += in.a1 / 2 * sind(t);
+    return in;
+}
+Points points(Random &random) {
+    const TwoArcs arc = twoArcs(random);
+    return {{random.point(), random.point(), random.point(), random.point()},
+            {arc.center2[0], arc.center2[1]},
+            arc.a2,
+            arc.b2,
+            arc.rot2};
+}
+
+template <class Make, class Call> int arcRow(const char *name, Make make, Call call) {
+    return row(name, make, [call](const TwoArcs &in) {
+        DTPOINT p[4] = {};
+        int16_t count = 0;
+        return call(in, p, &count) + count + p[0].x;
+    });
+}
+template <class Call> int insceRow(const char *name, Call call) {
+    return arcRow(name, circleAndEllipse, [call](const TwoArcs &in, DTPOINT *p, int16_t *count) {
+        return call(in.center1, in.a1 / 2, in.angles1, in.center2, in.a2, in.b2, in.rot2,
+                    in.angles2, p, p + 1, p + 2, p + 3, count);
+    });
+}
+template <class Call> int ins2eRow(const char *name, Call call) {
+    return arcRow(name, twoArcs, [call](const TwoArcs &in, DTPOINT *p, int16_t *count) {
+        return call(in.center1, in.center2, in.a1, in.a2, in.b1, in.b2, in.rot1, in.rot2,
+                    in.angles1, in.angles2, p, p + 1, p + 2, p + 3, count);
+    });
+}
+
+const int kConics[] = {
+    arcRow("a2dIntersectionEC", circleAndEllipse,
+           [](const TwoArcs &in, DTPOINT *p, int16_t *) {
+               return a2dIntersectionEC(in.center2[0] - in.center1[0],
+                                        in.center2[1] - in.center1[1], in.a2 / 2, in.b2 / 2,
+                                        in.a1 / 2, p);
+           }),
+    insceRow("a2d_insce", a2d_insce),
+    insceRow("ca_insce", ca_insce),
+    ins2eRow("a2d_ins2e", a2d_ins2e),
+    ins2eRow("ca_ins2e", ca_ins2e),
+    row("a2d_chk_distdeg", points,
+        [](const Points &in) {
+            DTPOINT out[4];
+            return a2d_chk_distdeg(in.at, 4, in.center, in.rot, in.a, in.b, out) + out[0].x;
+        }),
+};
 
 template <class Make, class Call> int lineRow(const char *name, Make make, Call call) {
     return row(name, make, [call](const LineAndEllipse &in) {

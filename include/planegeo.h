@@ -1643,6 +1643,113 @@ PLANEGEO_API int32_t PLANEGEO_CALL a2d_InsDe(const DTELLIPSE *e1, const DTELLIPS
 /** @defgroup conics Ellipses with circles and ellipses
  *  @{ */
 
+/**
+ * Intersects a circle about the origin with an ellipse whose axes lie along x and y.
+ *
+ * Points lie on both curves; of a touch within the tolerances one or both points
+ * are given. Fixed tolerances decide: an ellipse with b below 1e-6 is a segment,
+ * one whose half axes differ by less than errdist a circle (see a2dCrs2C()), and
+ * one whose centre lies within 1e-6 of the y axis is taken as lying on it. Where
+ * nothing is found, two points that need not lie on the ellipse are given if the
+ * discriminant, a length to the sixth, is below 1e-6: always so in drawings of
+ * some hundredths of a unit.
+ *
+ * @param[in]  ex,ey centre of the ellipse, seen from that of the circle
+ * @param[in]  a,b   half axes, a along x and not the shorter
+ * @param[in]  r     radius
+ * @param[out] out   four points: those found, in the order in which the quartic of
+ *                   their ordinates is solved by radicals; beyond the count (0, 0)
+ *                   or what was tried and dropped; untouched when refused
+ * @return the number of points, 0 to 4; -1001 when b exceeds a, or when a or r is
+ *         below 1e-6
+ * @see a2d_insce for arcs in any position
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2dIntersectionEC(double ex, double ey, double a, double b,
+                                                     double r, DTPOINT *out);
+
+/**
+ * Intersects a circular with an elliptic arc.
+ *
+ * The points are those of a2dIntersectionEC(); kept are those on both arcs, with
+ * 1e-8 degrees of slack. An ellipse with half a second axis below 1e-6 is a
+ * segment, of which no part is left out.
+ *
+ * @param[in]  center  centre of the circle, x and y
+ * @param[in]  r       radius
+ * @param[in]  angles  start and end of its arc, degrees
+ * @param[in]  ecenter centre of the ellipse, x and y
+ * @param[in]  a,b     full axes; a must not be the shorter
+ * @param[in]  rot     rotation of the first axis, degrees
+ * @param[in]  eangles start and end of the elliptic arc, parametric degrees; equal
+ *                     ends mean the full ellipse
+ * @param[out] p1,p2,p3,p4 the points kept; those beyond the count are untouched
+ * @param[out] count   0 to 4, lowered by as many points as a2d_chk_distdeg() drops
+ *                     while the points stay in their places; untouched when refused
+ * @return 0 done; -1 refused: a shape that a2dIntersectionEC() refuses, or an axis
+ *         below errdist where a point on the circle's arc was found
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_insce(const double *center, double r, const double *angles,
+                                             const double *ecenter, double a, double b, double rot,
+                                             const double *eangles, DTPOINT *p1, DTPOINT *p2,
+                                             DTPOINT *p3, DTPOINT *p4, int16_t *count);
+/** The same function as a2d_insce(). */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_insce(const double *center, double r, const double *angles,
+                                            const double *ecenter, double a, double b, double rot,
+                                            const double *eangles, DTPOINT *p1, DTPOINT *p2,
+                                            DTPOINT *p3, DTPOINT *p4, int16_t *count);
+
+/**
+ * Intersects two elliptic arcs.
+ *
+ * The plane is stretched so that the first ellipse becomes a circle, and
+ * a2d_insce() answers. Any axis may be the longer one.
+ *
+ * @param[in]  center1,center2 the centres, x and y each
+ * @param[in]  a1,a2     full first axes
+ * @param[in]  b1,b2     full second axes; with @p b1 zero the answer is no points,
+ *                       and y coordinates of the outputs that are not finite or lost
+ * @param[in]  rot1,rot2 rotations, degrees
+ * @param[in]  angles1,angles2 start and end of each arc, parametric degrees
+ * @param[in,out] p1,p2,p3,p4 the points found. Those beyond the count are carried
+ *                       out of the stretched frame too, from whatever they held
+ * @param[out] count     0 to 4
+ * @return 0 done; 1 the ellipses coincide within errdist (axes, rotations and
+ *         squared distance of the centres), count is 0; -1 refused: an axis of the
+ *         second ellipse is not longer than errdist, or a2d_insce() refused; in
+ *         these two cases the points are untouched and count is 0
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_ins2e(const double *center1, const double *center2,
+                                             double a1, double a2, double b1, double b2,
+                                             double rot1, double rot2, const double *angles1,
+                                             const double *angles2, DTPOINT *p1, DTPOINT *p2,
+                                             DTPOINT *p3, DTPOINT *p4, int16_t *count);
+/** The same function as a2d_ins2e(). */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_ins2e(const double *center1, const double *center2, double a1,
+                                            double a2, double b1, double b2, double rot1,
+                                            double rot2, const double *angles1,
+                                            const double *angles2, DTPOINT *p1, DTPOINT *p2,
+                                            DTPOINT *p3, DTPOINT *p4, int16_t *count);
+
+/**
+ * Drops the points of a list that repeat an earlier one.
+ *
+ * Two points are one when their squared distance is below errdist (one thousandth
+ * of a unit apart by default) and their parameters on the ellipse differ by less
+ * than 1e-8 degrees.
+ *
+ * @param[in]  points 2 to 4 points
+ * @param[in]  n      their number
+ * @param[in]  center centre of the ellipse, x and y
+ * @param[in]  rot    rotation of the first axis, degrees
+ * @param[in]  a,b    full axes
+ * @param[out] out    the distinct points in their order; may be @p points itself
+ * @return the number of distinct points; -1 when @p n is not 2 to 4, or an axis is
+ *         shorter than errdist, @p out is then untouched
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_chk_distdeg(const DTPOINT *points, int32_t n,
+                                                   const double *center, double rot, double a,
+                                                   double b, DTPOINT *out);
+
 /** @} */
 
 /** @defgroup ellipseFeet Ellipses: perpendiculars

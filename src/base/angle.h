@@ -54,6 +54,12 @@ inline double reducedKeeping360(double deg) {
     return deg;
 }
 
+/// How far apart two angles of one turn are, the shorter way round.
+inline double angleBetween(double deg, double otherDeg) {
+    const double apart = std::fabs(deg - otherDeg);
+    return apart > 180.0 ? std::fabs(apart - 360.0) : apart;
+}
+
 /// The range of an arc, anticlockwise, degrees. Once normalised: end in (0, 360], end - start
 /// in (0, 360], and a negative start marks a range that crosses 0.
 struct AngleRange {

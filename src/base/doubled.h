@@ -52,6 +52,19 @@ inline Doubled operator*(Doubled v, Doubled w) {
 }
 inline Doubled squared(Doubled v) { return v * v; }
 
+inline Doubled operator/(Doubled v, Doubled w) {
+    const double quotient = v.hi / w.hi;
+    const Doubled rest = v - quotient * w;
+    return Doubled::ordered(quotient, rest.hi / w.hi);
+}
+/// Of a negative number that of zero: here such a number is a zero that was rounded.
+inline Doubled squareRoot(Doubled v) {
+    if (!(v.hi > 0.0)) return v.hi <= 0.0 ? Doubled(0.0) : v;
+    const double root = std::sqrt(v.hi);
+    const Doubled rest = v - Doubled::product(root, root);
+    return Doubled::ordered(root, rest.hi / (2.0 * root));
+}
+
 /// cross(v, w) to an ulp or two, however much of the two products cancels.
 inline double accurateCross(Vec2 v, Vec2 w) {
     const double right = v.y * w.x;

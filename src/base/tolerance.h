@@ -166,6 +166,31 @@ inline constexpr double kVerticalTouchDiscriminant = 1e-6;
 inline constexpr double kSameRotationDeg = 1e-8;
 /// A range that differs from 360 by less is a full ellipse (<): a2d_InsDe.
 inline constexpr double kFullEllipseDeg = 1e-8;
+/// A half axis or radius that is none (<); half a second axis below it makes the ellipse a
+/// segment: a2dIntersectionEC, a2d_insce.
+inline constexpr double kShortestHalfAxis = 1e-6;
+/// A circle touches the line of a segment (<): a2dIntersectionEC.
+inline constexpr double kSegmentTouch = 1e-6;
+/// Slack of both ends of that segment (<, >, <=): a2dIntersectionEC.
+inline constexpr double kSegmentEnd = 1e-6;
+/// The ellipse's centre lies on the y axis through the circle's (<): a2dIntersectionEC.
+inline constexpr double kCenterOnAxis = 1e-6;
+/// It lies on the x axis where both curves touch (<): a2dIntersectionEC.
+inline constexpr double kTouchOnAxis = 1e-6;
+/// Imaginary part of a root that counts as real (<=): a2dIntersectionEC.
+inline constexpr double kRealRoot = 1e-6;
+/// Ordinates of two roots are equal (<), and so are their key angles (<): a2dIntersectionEC.
+inline constexpr double kSameOrdinate = 1e-8;
+inline constexpr double kSameKeyAngleDeg = 1e-8;
+/// What either equation, as a ratio of squares, may miss 1 by at a point of both curves (<=):
+/// a2dIntersectionEC.
+inline constexpr double kOffCurve = 1e-6;
+/// Discriminant (length to the sixth) of curves that touch (<): a2dIntersectionEC.
+inline constexpr double kQuadraticTouch = 1e-6;
+/// Squared distance from the y axis of a point on it (<): a2dIntersectionEC.
+inline constexpr double kCircleTopSquared = 1e-10;
+/// Parameters of two points that are one (<): a2d_chk_distdeg.
+inline constexpr double kSameParameterDeg = 1e-8;
 
 // Ellipses: perpendiculars, tangents, distances.
 

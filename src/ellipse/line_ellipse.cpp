@@ -2,8 +2,8 @@
 
 #include "ellipse/line_ellipse.h"
 
-#include "base/angle.h"
 #include "base/doubled.h"
+#include "ellipse/convert.h"
 
 namespace planegeo {
 
@@ -60,18 +60,14 @@ void store(const LineCrossing &crossing, DTPOINT *out1, DTPOINT *out2) {
     store(crossing.points[1], out2);
 }
 
-/// The polar angle that belongs to a parameter, in degrees. Its components snap to the axes in
-/// the ellipse's frame, those of a point's own angle in the plane's.
-double polarDeg(const EllipseFrame &ellipse, double parameterDeg) {
-    return snappedDirectionRad(ellipse.localAt(parameterDeg)) * kDegPerRad;
-}
-
-/// What an elliptic arc, given by the parameters of its ends, keeps of the points.
+/// What an elliptic arc, given by the parameters of its ends, keeps of the points. Directions of
+/// the ends snap to the axes of the ellipse, those of the points to the axes of the plane.
 LineCrossing keptOnArc(const LineCrossing &crossing, const EllipseFrame &ellipse,
                        double rotationDeg, const double *ends) {
     if (crossing.count == 0) return crossing;
     const AngleRange arc =
-        AngleRange::normalised(polarDeg(ellipse, ends[0]), polarDeg(ellipse, ends[1])).range;
+        AngleRange::normalised(snappedPolarDeg(ellipse, ends[0]), snappedPolarDeg(ellipse, ends[1]))
+            .range;
     LineCrossing kept;
     for (std::uint32_t i = 0; i < crossing.count; ++i) {
         const Vec2 point = crossing.points[i];

@@ -1,0 +1,189 @@
+// Circular with elliptic arcs, and two elliptic arcs, in any position.
+//
+// A circle and an ellipse are carried into the frame whose origin is the circle's centre and whose
+// x axis is the ellipse's first. Of two ellipses the plane is stretched until one is a circle.
+
+#include "base/settings.h"
+#include "base/tolerance.h"
+#include "circle/circle.h"
+#include "ellipse/circle_ellipse.h"
+#include "ellipse/convert.h"
+#include "ellipse/settle.h"
+
+namespace {
+
+using namespace planegeo;
+
+/// Common points with their parameters on the ellipse.
+struct PointsOnEllipse {
+    int count = 0;
+    Vec2 at[4] = {};
+    double parameterDeg[4] = {};
+
+    void push(Vec2 point, double deg) {
+        at[count] = point;
+        parameterDeg[count++] = deg;
+    }
+};
+
+/// Every point but those that repeat one before it. The squared distance is compared with errdist
+/// itself, on purpose.
+PointsOnEllipse withoutRepeats(const PointsOnEllipse &points) {
+    PointsOnEllipse distinct;
+    for (int j = 0; j < points.count; ++j) {
+        bool repeats = false;
+        for (int i = 0; i < distinct.count && !repeats; ++i) {
+            const Vec2 apart = points.at[j] - distinct.at[i];
+            repeats =
+                dot(apart, apart) < distanceTolerance() &&
+                angleBetween(points.parameterDeg[j], distinct.parameterDeg[i]) < kSameParameterDeg;
+        }
+        if (!repeats) distinct.push(points.at[j], points.parameterDeg[j]);
+    }
+    return distinct;
+}
+
+/// The points on both arcs; nothing when the shape of the ellipse is refused.
+///
+/// Angles are taken in the common frame: they keep their digits far from the origin.
+std::optional<PointsOnEllipse> crossArcs(const Arc &arc, const DTELLIPSE &ellipse) {
+    const EllipseFrame frame = EllipseFrame::of(ellipse);
+    const Vec2 center = frame.turn.undo(frame.center - arc.circle.center);
+    const ConicPoints points =
+        crossCircleEllipse({center, frame.halfFirst, frame.halfSecond, arc.circle.r});
+    if (points.count < 0) return std::nullopt;
+
+    const EllipseFrame local = {center, {1.0, 0.0}, frame.halfFirst, frame.halfSecond};
+    const bool isSegment = !(frame.halfSecond >= kShortestHalfAxis);
+    PointsOnEllipse kept;
+    for (int i = 0; i < points.count; ++i) {
+        const Vec2 point = points.at[i];
+        const Vec2 turned = frame.turn.apply(point);
+        if (!isOnArc(arc.range.start, arc.range.end, directionDeg(turned))) continue;
+        double deg = 0.0;
+        if (!isSegment) {
+            const auto parameter = parameterOfPoint(point, local, 0.0);
+            if (!parameter) return std::nullopt;
+            deg = *parameter;
+            if (!isOnArc(ellipse.start, ellipse.end, deg)) continue;
+        }
+        kept.push(turned + arc.circle.center, deg);
+    }
+    // Only the count is lowered, on purpose: the points stay where they were in the list.
+    if (!isSegment) kept.count = withoutRepeats(kept).count;
+    return kept;
+}
+
+bool areSameEllipse(const EllipseFrame &one, const EllipseFrame &other, double rotation,
+                    double otherRotation) {
+    const double tolerance = distanceTolerance();
+    const Vec2 apart = one.center - other.center;
+    return std::fabs(2.0 * (one.halfFirst - other.halfFirst)) < tolerance &&
+           std::fabs(2.0 * (one.halfSecond - other.halfSecond)) < tolerance &&
+           std::fabs(rotation - otherRotation) < tolerance && !(dot(apart, apart) > tolerance);
+}
+
+/// The second ellipse in the frame of the first, stretched along y by k.
+std::optional<DTELLIPSE> stretchedInto(const EllipseFrame &first, double firstRotation, double k,
+                                       const DTELLIPSE &second) {
+    const Vec2 center = first.toLocal({second.cx, second.cy});
+    const auto image = scaledAlongY({0, center.x, center.y, second.a, second.b, second.start,
+                                     second.end, second.rot - firstRotation},
+                                    k);
+    if (!image || !image->start || !image->end) return std::nullopt;
+    return DTELLIPSE{0,
+                     image->center.x,
+                     image->center.y,
+                     image->axes.first,
+                     image->axes.second,
+                     *image->start,
+                     *image->end,
+                     image->axes.rotationDeg};
+}
+
+} // namespace
+
+extern "C" {
+
+int32_t a2dIntersectionEC(double ex, double ey, double a, double b, double r, DTPOINT *out) {
+    const ConicPoints points = crossCircleEllipse({{ex, ey}, a, b, r});
+    if (points.count < 0) return points.count;
+    for (int i = 0; i < 4; ++i) {
+        store(points.at[i], out + i);
+    }
+    return points.count;
+}
+
+int32_t a2d_insce(const double *center, double r, const double *angles, const double *ecenter,
+                  double a, double b, double rot, const double *eangles, DTPOINT *p1, DTPOINT *p2,
+                  DTPOINT *p3, DTPOINT *p4, int16_t *count) {
+    const auto points = crossArcs({{{center[0], center[1]}, r}, loadRange(angles)},
+                                  {0, ecenter[0], ecenter[1], a, b, eangles[0], eangles[1], rot});
+    if (!points) return -1;
+    *count = static_cast<int16_t>(points->count);
+    DTPOINT *const outs[] = {p1, p2, p3, p4};
+    for (int i = 0; i < points->count; ++i) {
+        store(points->at[i], outs[i]);
+    }
+    return 0;
+}
+
+int32_t ca_insce(const double *center, double r, const double *angles, const double *ecenter,
+                 double a, double b, double rot, const double *eangles, DTPOINT *p1, DTPOINT *p2,
+                 DTPOINT *p3, DTPOINT *p4, int16_t *count) {
+    return a2d_insce(center, r, angles, ecenter, a, b, rot, eangles, p1, p2, p3, p4, count);
+}
+
+int32_t a2d_ins2e(const double *center1, const double *center2, double a1, double a2, double b1,
+                  double b2, double rot1, double rot2, const double *angles1, const double *angles2,
+                  DTPOINT *p1, DTPOINT *p2, DTPOINT *p3, DTPOINT *p4, int16_t *count) {
+    const EllipseFrame first = EllipseFrame::of({center1[0], center1[1]}, a1, b1, rot1);
+    const EllipseFrame other = EllipseFrame::of({center2[0], center2[1]}, a2, b2, rot2);
+    const DTELLIPSE second = {0, center2[0], center2[1], a2, b2, angles2[0], angles2[1], rot2};
+    const AngleRange range = loadRange(angles1);
+    *count = 0;
+    if (areSameEllipse(first, other, rot1, rot2)) return 1;
+    const double k = a1 / b1;
+    const auto image = stretchedInto(first, rot1, k, second);
+    if (!image) return -1;
+    const auto points = crossArcs({{{0.0, 0.0}, first.halfFirst}, range}, *image);
+    if (!points) return -1;
+
+    *count = static_cast<int16_t>(points->count);
+    DTPOINT *const outs[] = {p1, p2, p3, p4};
+    for (int i = 0; i < 4; ++i) {
+        // Points beyond the count are carried along too, on purpose: whatever the caller left.
+        const bool isFound = i < points->count;
+        const Vec2 stretched = isFound ? points->at[i] : load(outs[i]);
+        const Vec2 point = first.toPlane({stretched.x, stretched.y / k});
+        store(isFound ? settledOnBoth(point, first, other) : point, outs[i]);
+    }
+    return 0;
+}
+
+int32_t ca_ins2e(const double *center1, const double *center2, double a1, double a2, double b1,
+                 double b2, double rot1, double rot2, const double *angles1, const double *angles2,
+                 DTPOINT *p1, DTPOINT *p2, DTPOINT *p3, DTPOINT *p4, int16_t *count) {
+    return a2d_ins2e(center1, center2, a1, a2, b1, b2, rot1, rot2, angles1, angles2, p1, p2, p3, p4,
+                     count);
+}
+
+int32_t a2d_chk_distdeg(const DTPOINT *points, int32_t n, const double *center, double rot,
+                        double a, double b, DTPOINT *out) {
+    if (n < 2 || n > 4) return -1;
+    const EllipseFrame frame = EllipseFrame::of({center[0], center[1]}, a, b, rot);
+    PointsOnEllipse all;
+    for (int i = 0; i < n; ++i) {
+        const Vec2 point = load(points + i);
+        const auto parameter = parameterOfPoint(point, frame, rot);
+        if (!parameter) return -1;
+        all.push(point, *parameter);
+    }
+    const PointsOnEllipse distinct = withoutRepeats(all);
+    for (int i = 0; i < distinct.count; ++i) {
+        store(distinct.at[i], out + i);
+    }
+    return distinct.count;
+}
+
+} // extern "C"
