@@ -19,14 +19,16 @@ struct Angle {
 };
 Angle angle(bench::Random &random) { return {random.angleDeg()}; }
 
-/// One call per iteration, with the half axes in the parameter table.
-template <class Call> int single(const char *name, Call call) {
-    benchmark::RegisterBenchmark(name, [call](benchmark::State &state) {
+/// A call, or several, on the one ellipse, with its half axes in the parameter table.
+template <class Call> int single(const char *name, Call call, int calls = 1) {
+    benchmark::RegisterBenchmark(name, [call, calls](benchmark::State &state) {
         ca_Simpson_getParmtbl()[0] = kHalfFirst;
         ca_Simpson_getParmtbl()[1] = kHalfSecond;
         for (auto _ : state) {
             benchmark::DoNotOptimize(call());
         }
+        state.counters["per_call"] = benchmark::Counter(
+            calls, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
     });
     return 0;
 }
@@ -91,14 +93,16 @@ double divided(decltype(ca_elpdn) *divide, int32_t k) {
     return out.x + out.y + piece;
 }
 
-/// All points but the last, whose call does not look for it.
-template <class Point> double points(Point point) {
+/// All points in turn; those at the quarters fall on a sample of ca_elpdn.
+template <class Point> double allPoints(Point point) {
     double sum = 0.0;
-    for (int32_t k = 1; k < kPieces; ++k) {
+    for (int32_t k = 1; k <= kPieces; ++k) {
         sum += point(k);
     }
     return sum;
 }
+double polylinePoint(int32_t k) { return divided(ca_elpdn, k); }
+double plainPolylinePoint(int32_t k) { return plain::divide(kArc, kPieces, k).point.x; }
 
 const int kDivide[] = {
     single("a2d_elpdn/first_call",
@@ -106,11 +110,14 @@ const int kDivide[] = {
     single("plain/a2d_elpdn/first_call",
            [] { return plain::divisionTable(kArc, kPieces).parameters[1]; }),
     single("a2d_elpdn/next_call", [] { return divided(a2d_elpdn, 1); }),
-    single("ca_elpdn/11_points",
-           [] { return points([](int32_t k) { return divided(ca_elpdn, k); }); }),
     single(
-        "plain/ca_elpdn/11_points",
-        [] { return points([](int32_t k) { return plain::divide(kArc, kPieces, k).point.x; }); }),
+        "ca_elpdn/12_points", [] { return allPoints(polylinePoint); }, kPieces),
+    single(
+        "plain/ca_elpdn/12_points", [] { return allPoints(plainPolylinePoint); }, kPieces),
+    single("ca_elpdn/point_5", [] { return polylinePoint(5); }),
+    single("plain/ca_elpdn/point_5", [] { return plainPolylinePoint(5); }),
+    single("ca_elpdn/point_6", [] { return polylinePoint(6); }),
+    single("plain/ca_elpdn/point_6", [] { return plainPolylinePoint(6); }),
 };
 
 } // namespace

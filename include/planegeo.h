@@ -1335,8 +1335,8 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_Simpson(PLANEGEO_INTEGRAND integrand, doub
  * @param[in]     which       0 moves the lower limit, any other value the upper
  * @return 0 found; -2 found, but a range on the way did not settle; -1 given up:
  *         ten ranges in a row gave nothing or no change above 1e-6, the limit no
- *         longer changes, or more than 2^28 samples have been spent (the range
- *         then spans some 80 turns); else the integrand's code
+ *         longer changes, wanted is infinite, or 2^28 samples are spent (the range
+ *         has then grown by at most 80 turns); else the integrand's code
  */
 PLANEGEO_API int32_t PLANEGEO_CALL ca_Simpson2(PLANEGEO_INTEGRAND integrand, double *lower,
                                                double *upper, double wanted, int32_t which);
@@ -1388,12 +1388,12 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_ElpLen2(DTELLIPSE *ellipse, double wanted,
  * Finds a division point to 0.001 degrees, from a table kept between calls.
  *
  * Meant to be asked for k = 1, 2, ..., n in turn. The first call measures the arc
- * and notes the first multiple of 0.001 degrees at which each piece is full; the
- * calls that follow read them; the call with k = n releases the table, and so does
- * one with k > n. The table serves arcs whose centre and axes agree within 1e-6,
- * rotation and angles within 1e-8, and whose n is equal: the piece length and the
- * angle come from it, centre, axes and rotation from the call. Any other arc
- * replaces it. A table is never shared: do not divide on two threads at once.
+ * and notes, in steps of 0.001 degrees, where each piece is full, to within the
+ * rounding of the sum; the calls that follow read it; the call with k = n releases
+ * the table, and so does one with k > n. The table serves arcs whose centre and axes agree within
+ * 1e-6, rotation and angles within 1e-8, and whose n is equal: the piece length and the angle come
+ * from it, centre, axes and rotation from the call. Any other arc replaces it. A table is never
+ * shared: do not divide on two threads at once.
  *
  * @param[in]  center,a,b,rot the ellipse: full axis lengths, degrees
  * @param[in]  angles start and end; a span below 0.004 degrees gives a length of 0
@@ -1404,7 +1404,7 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_ElpLen2(DTELLIPSE *ellipse, double wanted,
  * @return 0 done; 1 k exceeds n or is below 1, or no memory, or n above 2^24; -1
  *         start exceeds end (at every call); outputs are untouched in these cases.
  *         -2 from the call that measures: the length does not settle, or the span
- *         exceeds 360000 degrees; the length is 0 and every point the end
+ *         exceeds 36000 degrees; the length is 0 and every point the end
  * @see ca_elpdn, which is coarser and keeps nothing
  */
 PLANEGEO_API int32_t PLANEGEO_CALL a2d_elpdn(const DTPOINT *center, double a, double b, double rot,

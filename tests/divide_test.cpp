@@ -216,21 +216,4 @@ TEST(StatelessDivision, oddArguments) {
     }
 }
 
-TEST(StatelessDivision, stepByStep) {
-    Random random(5305);
-    for (int i = 0; i < 3000; ++i) {
-        const double a = random.logUniform(1e-3, 1e5), start = random.uniform(-400, 400);
-        const plain::Arc arc = {random.point(100), a,     a * random.logUniform(0.01, 100),
-                                random.angleDeg(), start, start + random.uniform(0, 360)};
-        const auto n = static_cast<int32_t>(random.uniform(1, 50));
-        const auto k = static_cast<int32_t>(random.uniform(1, n + 2));
-        const plain::Division want = plain::divide(arc, n, k);
-        const Answer got = stateless(arc, n, k);
-        ASSERT_EQ(got.code, want.code);
-        EXPECT_NEAR(got.piece, want.piece, 1e-12 * want.piece + 1e-13);
-        const DTPOINT point = want.code == 0 ? want.point : kUntouchedPoint;
-        EXPECT_TRUE(near(got.point, point, 1e-12 * (arc.a + arc.b + 200)));
-    }
-}
-
 } // namespace

@@ -158,7 +158,6 @@ struct SearchCase {
 TEST(LimitSearch, movesOneEnd) {
     const auto degree = [](double) { return 1.0 / kRadPerDeg; }; // integrals in degrees
     const auto nan = [](double) { return kNaN; };
-    const double far = 1e12;
     const SearchCase cases[] = {
         {"shrinks the end", 0, 90, 45, 1, degree, 0, 45},
         {"any other value moves the end", 0, 90, 45, -3, degree, 0, 45},
@@ -169,8 +168,6 @@ TEST(LimitSearch, movesOneEnd) {
         {"an empty range is a wanted 0", 5, 4, 0.5e-6, 1, degree, 0, 4},
         {"a negative length stalls", 0, 30, -1, 1, degree, -1, 0},
         {"NaN is never reached", 0, 30, kNaN, 1, degree, -1, 0},
-        {"an infinite length ends", 0, 30, kInfinity, 1, degree, -1, 0},
-        {"a length out of reach ends", 0, 30, far, 0, degree, -1, 0},
         {"nothing to integrate", 0, 30, 1, 1, [](double) { return 0.0; }, -1, 0},
         {"a NaN integrand ends", 0, 30, 1, 1, nan, -1, 0},
         {"a NaN integrand ends below 0", 0, 30, -1, 0, nan, -1, 0},
@@ -202,6 +199,17 @@ TEST(LimitSearch, movesOneEnd) {
     EXPECT_EQ(hi, 90.0);
 }
 
+int32_t one(double, double *value) { return *value = 1.0, 0; }
+
+TEST(LimitSearch, aLengthOutOfReachEnds) {
+    const HalfAxes axes(1.0, 1.0);
+    for (const PLANEGEO_INTEGRAND integrand : {one, ca_lengelp}) {
+        double lo = 0.0, hi = 30.0;
+        EXPECT_EQ(ca_Simpson2(integrand, &lo, &hi, integrand == one ? kInfinity : 1e12, 1), -1);
+        EXPECT_EQ(hi, 30.0);
+    }
+}
+
 TEST(LimitSearch, stepsOfTheSearch) {
     const auto degree = [](double) { return 1.0 / kRadPerDeg; };
     double lo = 0.0, hi = 20.0;
@@ -215,6 +223,9 @@ TEST(LimitSearch, stepsOfTheSearch) {
     lo = 0.0, hi = 50.0;
     EXPECT_EQ(ca_Simpson2(answering(degree), &lo, &hi, 35.0, 1), 0);
     EXPECT_EQ(hi, 35.0) << "40, 30 by steps of 10, then 35";
+    lo = 1000.0, hi = 0.0;
+    EXPECT_EQ(ca_Simpson2(failingAt(-1.0, 0), &lo, &hi, 1.0, 1), -1) << "an empty range";
+    EXPECT_EQ(probe.count, 2u * 10u) << "ten rounds without progress, both ends asked in each";
 }
 
 TEST(Length, knownArcs) {
@@ -234,7 +245,8 @@ TEST(Length, knownArcs) {
 TEST(Length, aWholeTurnIsWrittenFromZero) {
     const double whole = 20.0 * std::comp_ellint_2(0.8);
     EXPECT_NEAR(measured(arc(10, 6, 0, 359.9999995)), whole, 1e-5);
-    for (double start = 10.0; start < 360.0; start += 20.0) {
+    for (int i = 0; i < 18; ++i) {
+        const double start = 10.0 + 20.0 * i;
         const double length = measured(arc(10, 6, start, start + 360.0));
         EXPECT_TRUE(length == 0.0 || std::fabs(length - whole) < 1e-6) << start;
     }

@@ -223,8 +223,11 @@ inline Division divide(const Arc &arc, std::int32_t n, std::int32_t k) {
     DTPOINT points[362] = {};
     double segments[362] = {};
     int count = 0;
-    for (double t = arc.start; t <= arc.end; t = t + 1.0)
-        points[count++] = at(t);
+    double sampled = arc.start;
+    while (sampled <= arc.end) {
+        points[count++] = at(sampled);
+        sampled = sampled + 1.0;
+    }
     double total = 0.0;
     for (int i = 0; i + 1 < count; ++i) {
         const double dx = points[i + 1].x - points[i].x, dy = points[i + 1].y - points[i].y;

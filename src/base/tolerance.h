@@ -117,8 +117,10 @@ inline constexpr double kSlopeVertical = 1e-8;
 
 // Ellipses: length, area, division.
 
-/// Two passes of the Simpson rule agree (<=), so does an integral with the wanted one (<=).
+/// Two passes of the Simpson rule agree (<=).
 inline constexpr double kSettledIntegral = 1e-6;
+/// An integral is the wanted one (<=): ca_Simpson2.
+inline constexpr double kReachedIntegral = 1e-6;
 /// An integral is nothing, or no progress to the one before (<): ca_Simpson2.
 inline constexpr double kStalledIntegral = 1e-6;
 /// A step of the Simpson rule this short ends its refinement (<).

@@ -68,6 +68,11 @@ struct Rotation {
     constexpr Vec2 undo(Vec2 v) const { return {v.x * c + v.y * s, v.y * c - v.x * s}; }
 };
 
+/// Both turns, one after the other.
+constexpr Rotation operator*(Rotation p, Rotation q) {
+    return {p.c * q.c - p.s * q.s, p.s * q.c + p.c * q.s};
+}
+
 /// A perpendicular dropped from a point onto the line `through + t * direction`.
 struct PerpendicularFoot {
     double offset; ///< distance of the point right of the line, in lengths of the direction

@@ -3,8 +3,12 @@
 // Lengths are integrals over the parameter, areas over the polar angle; both read the half axes
 // from the process-wide table. Refinement settles at kSettledIntegral, an absolute difference.
 
-#include "base/angle.h"
+#include <limits>
+#include <optional>
+
 #include "base/settings.h"
+#include "ellipse/convert.h"
+#include "ellipse/cosine_series.h"
 #include "ellipse/simpson.h"
 #include "ellipse/speed.h"
 #include "planegeo.h"
@@ -13,23 +17,59 @@ namespace {
 
 using namespace planegeo;
 
+constexpr std::int32_t kReversedLimits = -1;
 constexpr std::int32_t kGaveUp = -1;
 constexpr std::int32_t kOutOfIntervals = -2;
 
 /// The largest interval count whose double is still a 32-bit count.
 constexpr std::int64_t kLongestPass = 1073741823;
-/// A search that has asked its integrand so often gives up. With a sample per degree and two
-/// passes per range it has then stretched the range to some eighty turns.
+/// A search that has taken so many samples gives up. A range of s degrees takes at least 3s of
+/// them, and is reached by ranges every 5 degrees: it has then grown by less than
+/// kFarthestStretchDeg.
 constexpr std::int64_t kMostSearchSamples = std::int64_t{1} << 28;
+constexpr double kFarthestStretchDeg = 36000.0;
 constexpr double kFirstSearchStepDeg = 10.0;
 constexpr int kMostStalls = 10;
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 double halfFirst() { return settings.simpsonParameters[0]; }
 double halfSecond() { return settings.simpsonParameters[1]; }
 
-Integral integral(PLANEGEO_INTEGRAND integrand, double lo, double hi) {
+std::int32_t arcSpeed(double parameterDeg, double *value) {
+    *value = ArcSpeed::of(halfFirst(), halfSecond())(parameterDeg);
+    return 0;
+}
+
+std::int32_t sectorSpeed(double polarDeg, double *value) {
+    *value = SectorSpeed::of(halfFirst(), halfSecond())(polarDeg);
+    return 0;
+}
+
+Integral sampled(PLANEGEO_INTEGRAND integrand, double lo, double hi) {
     const auto sample = [integrand](double deg, double &value) { return integrand(deg, &value); };
-    return simpson(sample, lo, hi, kLongestPass);
+    return sampledIntegral(sample, lo, hi, kLongestPass);
+}
+
+/// The series of an integrand that is one of the library's, whose samples nobody can count.
+CosineSeries seriesOf(PLANEGEO_INTEGRAND integrand) {
+    if (integrand == arcSpeed || integrand == ca_lengelp) {
+        return CosineSeries::ofArcSpeed(halfFirst(), halfSecond());
+    }
+    if (integrand == ca_AreaElp) return CosineSeries::ofSectorSpeed(halfFirst(), halfSecond());
+    return {};
+}
+
+/// What an integrand does not exceed; infinite for a host's own.
+double highestOf(PLANEGEO_INTEGRAND integrand) {
+    const double longer = std::fmax(std::fabs(halfFirst()), std::fabs(halfSecond()));
+    if (integrand == arcSpeed || integrand == ca_lengelp) return longer;
+    if (integrand == ca_AreaElp) return longer * longer * 0.5;
+    return kInfinity;
+}
+
+Integral integral(PLANEGEO_INTEGRAND integrand, double lo, double hi) {
+    const Integral found = seriesOf(integrand).integral(lo, hi, kLongestPass);
+    return found.outcome == Refinement::undecided ? sampled(integrand, lo, hi) : found;
 }
 
 struct FoundLimit {
@@ -40,28 +80,38 @@ struct FoundLimit {
 
 /// Moves one limit until the integral is the wanted one, by steps that halve at each change of
 /// direction. The search begins as if after a shrink, so its very first stretch is half a step.
-FoundLimit searchLimit(PLANEGEO_INTEGRAND integrand, double lo, double hi, double wanted,
-                       bool movesLower) {
+/// Nothing where an uncertain integral lies too near to a decision.
+template <class Integrate>
+std::optional<FoundLimit> searchLimit(Integrate integrate, double lo, double hi, double wanted,
+                                      bool movesLower) {
     double &moved = movesLower ? lo : hi;
     const double outwards = movesLower ? -1.0 : 1.0;
     double step = kFirstSearchStepDeg;
     bool stretched = false;
-    double before = 0.0;
+    Integral before = {Refinement::done};
     int stalls = 0;
     std::int32_t code = 0;
     for (std::int64_t samples = 0; samples < kMostSearchSamples;) {
-        const Integral found = integral(integrand, lo, hi);
-        if (found.outcome == Refinement::refused) return {false, found.code, moved};
+        const Integral found = integrate(lo, hi);
+        if (found.outcome == Refinement::undecided) return std::nullopt;
+        if (found.outcome == Refinement::refused) return FoundLimit{false, found.code, moved};
         if (found.outcome == Refinement::outOfIntervals) code = kOutOfIntervals; // to the end
         samples += found.samples;
 
         const double s = found.value;
-        if (std::fabs(s - wanted) <= kSettledIntegral) return {true, code, moved};
+        const double change = s - before.value;
+        const double changeUncertainty = found.uncertainty + before.uncertainty;
+        if (isOpen(s - wanted, kReachedIntegral, found.uncertainty) ||
+            isOpen(s, kStalledIntegral, found.uncertainty) ||
+            isOpen(change, kStalledIntegral, changeUncertainty)) {
+            return std::nullopt;
+        }
+        if (std::fabs(s - wanted) <= kReachedIntegral) return FoundLimit{true, code, moved};
         const bool stalled =
-            std::fabs(s) < kStalledIntegral || std::fabs(s - before) < kStalledIntegral;
+            std::fabs(s) < kStalledIntegral || std::fabs(change) < kStalledIntegral;
         stalls = stalled ? stalls + 1 : 0;
         if (stalls == kMostStalls) break;
-        before = s;
+        before = found;
 
         const bool tooShort = s <= wanted; // a NaN counts as too long
         if (tooShort != stretched) step *= 0.5;
@@ -69,10 +119,25 @@ FoundLimit searchLimit(PLANEGEO_INTEGRAND integrand, double lo, double hi, doubl
         const double from = moved;
         moved += stretched ? outwards * step : -outwards * step;
         // A limit that stays where it is repeats the round: it stalls to the end, or goes round
-        // for ever on a NaN.
-        if (moved == from) break;
+        // for ever on a NaN. Nothing is infinitely long.
+        if (moved == from || wanted == kInfinity) break;
     }
-    return {false, kGaveUp, moved};
+    return FoundLimit{false, kGaveUp, moved};
+}
+
+FoundLimit searchLimit(PLANEGEO_INTEGRAND integrand, double lo, double hi, double wanted,
+                       bool movesLower) {
+    const double farthest = std::fabs(hi - lo) + kFarthestStretchDeg;
+    if (wanted > highestOf(integrand) * farthest) return {false, kGaveUp, 0.0}; // 57 times over
+    const CosineSeries series = seriesOf(integrand);
+    const auto summed = [&series](double from, double to) {
+        return series.integral(from, to, kLongestPass);
+    };
+    const auto stepped = [integrand](double from, double to) {
+        return sampled(integrand, from, to);
+    };
+    const auto fast = searchLimit(summed, lo, hi, wanted, movesLower);
+    return fast ? *fast : *searchLimit(stepped, lo, hi, wanted, movesLower);
 }
 
 struct Range {
@@ -94,28 +159,17 @@ Range measuredRange(Range range) {
     return range.isWholeTurn() ? kWholeTurn : range;
 }
 
-double polarDeg(const DTELLIPSE &e, double parameterDeg) {
-    const Rotation t = Rotation::ofDegrees(parameterDeg);
-    return directionDeg({e.a * t.c, e.b * t.s});
-}
-
 } // namespace
 
 extern "C" {
 
-int32_t ca_lengelp(double deg, double *value) {
-    *value = ArcSpeed::of(halfFirst(), halfSecond())(deg);
-    return 0;
-}
+int32_t ca_lengelp(double deg, double *value) { return arcSpeed(deg, value); }
 
-int32_t ca_AreaElp(double deg, double *value) {
-    *value = SectorSpeed::of(halfFirst(), halfSecond())(deg);
-    return 0;
-}
+int32_t ca_AreaElp(double deg, double *value) { return sectorSpeed(deg, value); }
 
 int32_t ca_Simpson(PLANEGEO_INTEGRAND integrand, double lower, double upper, double *result) {
     *result = 0.0;
-    if (lower > upper) return -1;
+    if (lower > upper) return kReversedLimits;
     const Integral found = integral(integrand, lower, upper);
     if (found.outcome == Refinement::refused) return found.code;
     if (found.outcome == Refinement::outOfIntervals) return kOutOfIntervals;
@@ -132,16 +186,18 @@ int32_t ca_Simpson2(PLANEGEO_INTEGRAND integrand, double *lower, double *upper, 
 
 int32_t ca_ElpLen(const DTELLIPSE *ellipse, double *length) {
     // Polar limits under an integrand of the parameter, on purpose: hosts have stored such lengths.
-    const Range polar =
-        measuredRange({polarDeg(*ellipse, ellipse->start), polarDeg(*ellipse, ellipse->end)});
-    ca_Simpson(ca_lengelp, polar.start, polar.end, length);
+    const auto polar = [ellipse](double parameterDeg) {
+        return polarOfParameter(ellipse->a, ellipse->b, parameterDeg);
+    };
+    const Range range = measuredRange({polar(ellipse->start), polar(ellipse->end)});
+    *length = integral(arcSpeed, range.start, range.end).value;
     return 0;
 }
 
 int32_t ca_ElpLen2(DTELLIPSE *ellipse, double wanted, int32_t which) {
     const bool movesStart = which == 0;
     Range range = {ellipse->start, ellipse->end};
-    const FoundLimit search = searchLimit(ca_lengelp, range.start, range.end, wanted, movesStart);
+    const FoundLimit search = searchLimit(arcSpeed, range.start, range.end, wanted, movesStart);
     if (!search.found) return kGaveUp;
     (movesStart ? range.start : range.end) = search.limit;
     range = measuredRange(range);

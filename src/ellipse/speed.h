@@ -16,10 +16,14 @@ struct ArcSpeed {
     static ArcSpeed of(double halfFirst, double halfSecond) {
         return {halfFirst * halfFirst, halfSecond * halfSecond};
     }
-    double operator()(double parameterDeg) const {
-        const Rotation t = Rotation::ofDegrees(parameterDeg);
+    double operator()(Rotation t) const {
         return std::sqrt(squareSecond * (t.c * t.c) + squareFirst * (t.s * t.s));
     }
+    double operator()(double parameterDeg) const {
+        return (*this)(Rotation::ofDegrees(parameterDeg));
+    }
+    /// The derivative by t in radians.
+    double slope(Rotation t) const { return (squareFirst - squareSecond) * t.s * t.c / (*this)(t); }
 };
 
 /// Half the squared distance from the centre to the ellipse along a polar angle, the area that
