@@ -45,8 +45,8 @@ need_to_test() {
     need libgtest-dev pkg-config || { has_header gtest/gtest.h && command -v pkg-config >/dev/null; }
 }
 need_to_draft() {
-    need libdxflib-dev libcli11-dev nlohmann-json3-dev pkg-config ||
-        has_header dxflib/dl_dxf.h CLI/CLI.hpp nlohmann/json.hpp
+    need libdxflib-dev libcli11-dev nlohmann-json3-dev libboost-dev pkg-config ||
+        has_header dxflib/dl_dxf.h CLI/CLI.hpp nlohmann/json.hpp boost/geometry.hpp
 }
 
 # quietly COMMAND...: shows what the command prints only if it fails.

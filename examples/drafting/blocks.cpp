@@ -46,23 +46,23 @@ class Unfolding {
             {placed(entity.shape, place.affine), place.layerOf(entity.layer)});
     }
 
-    void add(const Polyline &polyline, const Place &place) {
+    void add(const std::unique_ptr<Polyline> &polyline, const Place &place) {
         drawing_.outlines.push_back(
-            {drawing_.entities.size(), polyline.segments.size(), polyline.closed});
-        for (const Shape &segment : polyline.segments) {
+            {drawing_.entities.size(), polyline->segments.size(), polyline->closed});
+        for (const Shape &segment : polyline->segments) {
             countStep();
-            add(Entity{segment, polyline.layer}, place);
+            add(Entity{segment, polyline->layer}, place);
         }
     }
 
-    void add(const Insert &insert, const Place &place) {
-        const auto block = blocks_.find(insert.block);
+    void add(const std::unique_ptr<Insert> &insert, const Place &place) {
+        const auto block = blocks_.find(insert->block);
         if (block == blocks_.end()) {
             ++drawing_.leftOut["INSERT of a block that the file lacks"];
         } else if (place.depth > kDeepest) {
             ++drawing_.leftOut["INSERT nested more than " + std::to_string(kDeepest) + " deep"];
         } else {
-            addGrid(insert, block->second, place);
+            addGrid(*insert, block->second, place);
         }
     }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <string>
 #include <variant>
 #include <vector>
@@ -30,7 +31,8 @@ struct Polyline {
 
 struct Block {
     DTPOINT base = {0.0, 0.0};
-    std::vector<std::variant<Entity, Polyline, Insert>> items;
+    /// In the order of the file. Plain entities are by far the most, so the others stand apart.
+    std::vector<std::variant<Entity, std::unique_ptr<Polyline>, std::unique_ptr<Insert>>> items;
 };
 
 /// Blocks by blockKey() of their name; the drawing itself has the empty name.

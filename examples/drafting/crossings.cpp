@@ -3,17 +3,16 @@
 #include <algorithm>
 
 #include "pairs.h"
+#include "parallel.h"
+#include "progress.h"
+#include "spatial_index.h"
 
 namespace draft {
 
 namespace {
 
-/// Boxes are asked whether they come nearer than the distance at which shapes still touch.
-bool areNear(const Box &a, const Box &b) {
-    const double slack = ca_geterrdist();
-    return a.minX <= b.maxX + slack && b.minX <= a.maxX + slack && a.minY <= b.maxY + slack &&
-           b.minY <= a.maxY + slack;
-}
+/// Entities whose pairs one thread looks at in a row.
+constexpr std::size_t kChunk = 512;
 
 std::string pairName(const Shape &a, const Shape &b) {
     const Kind low = std::min(kindOf(a), kindOf(b));
@@ -43,6 +42,30 @@ void addPair(const Drawing &drawing, std::size_t i, std::size_t j, Crossings &cr
     }
 }
 
+void addPairsOf(const Drawing &drawing, std::size_t i, const Box &box, const SpatialIndex &index,
+                Crossings &crossings) {
+    thread_local std::vector<std::uint32_t> near;
+    // Shapes whose boxes are apart by less than errdist still touch.
+    index.find(box, ca_geterrdist(), near);
+    for (auto j = std::upper_bound(near.begin(), near.end(), i); j != near.end(); ++j)
+        addPair(drawing, i, *j, crossings);
+}
+
+Crossings joined(std::vector<Crossings> &chunks) {
+    std::size_t total = 0;
+    for (const Crossings &chunk : chunks)
+        total += chunk.found.size();
+    Crossings all;
+    all.found.reserve(total);
+    for (Crossings &chunk : chunks) {
+        all.found.insert(all.found.end(), chunk.found.begin(), chunk.found.end());
+        for (const auto &[pair, count] : chunk.unknown)
+            all.unknown[pair] += count;
+        chunk = {};
+    }
+    return all;
+}
+
 } // namespace
 
 const char *nameOf(CrossingKind kind) {
@@ -58,16 +81,18 @@ const char *nameOf(CrossingKind kind) {
 }
 
 Crossings crossingsOf(const Drawing &drawing) {
-    Crossings crossings;
-    std::vector<Box> boxes;
-    boxes.reserve(drawing.entities.size());
-    for (const Entity &entity : drawing.entities)
-        boxes.push_back(extentsOf(entity.shape));
-    for (std::size_t i = 0; i < boxes.size(); ++i) {
-        for (std::size_t j = i + 1; j < boxes.size(); ++j)
-            if (areNear(boxes[i], boxes[j])) addPair(drawing, i, j, crossings);
-    }
-    return crossings;
+    const std::vector<Box> boxes = boxesOf(drawing);
+    const SpatialIndex index(boxes);
+    const std::size_t count = boxes.size();
+    std::vector<Crossings> chunks((count + kChunk - 1) / kChunk);
+    Progress progress("crossings", count);
+    inParallel(chunks.size(), [&](std::size_t chunk) {
+        const std::size_t end = std::min(count, (chunk + 1) * kChunk);
+        for (std::size_t i = chunk * kChunk; i < end; ++i)
+            addPairsOf(drawing, i, boxes[i], index, chunks[chunk]);
+        progress.add(kChunk);
+    });
+    return joined(chunks);
 }
 
 } // namespace draft

@@ -118,9 +118,9 @@ class Collector : public DL_CreationAdapter {
         noteHeight("INSERT", data.ipz != 0.0);
         const Affine outer =
             ownPlane() * Affine::move(data.ipx, data.ipy) * Affine::turn(data.angle);
-        blocks_[block_].items.emplace_back(Insert{
+        blocks_[block_].items.emplace_back(std::make_unique<Insert>(Insert{
             blockKey(data.name), outer, Affine::scale(data.sx, data.sy), std::max(1, data.cols),
-            std::max(1, data.rows), data.colSp, data.rowSp, layerOf(attributes.getLayer())});
+            std::max(1, data.rows), data.colSp, data.rowSp, layerOf(attributes.getLayer())}));
     }
 
   private:
@@ -148,8 +148,8 @@ class Collector : public DL_CreationAdapter {
         for (Shape &shape : segments.shapes)
             shape = placed(shape, polylinePlane_);
         if (!segments.shapes.empty()) {
-            blocks_[block_].items.emplace_back(
-                Polyline{std::move(segments.shapes), closed_, polylineLayer_});
+            blocks_[block_].items.emplace_back(std::make_unique<Polyline>(
+                Polyline{std::move(segments.shapes), closed_, polylineLayer_}));
         }
         leaveOut("polyline segment of no length", segments.ofNoLength);
         if (segments.nearlyFlat > 0) drawing_.simplified[kNearlyFlat] += segments.nearlyFlat;

@@ -1,12 +1,12 @@
 #include "dxf_records.h"
 
+#include <array>
 #include <cerrno>
 #include <charconv>
 #include <cmath>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <system_error>
 
 #include "failure.h"
@@ -165,10 +165,13 @@ std::string loadText(const std::string &path) {
     if (std::filesystem::is_directory(path, ignored)) throw Failure("this is a directory");
     std::ifstream in(path, std::ios::binary);
     if (!in) throw Failure(std::strerror(errno));
-    std::ostringstream text;
-    text << in.rdbuf();
+    std::string loaded;
+    const auto size = std::filesystem::file_size(path, ignored); // a guess: a pipe has none
+    if (!ignored) loaded.reserve(size);
+    std::array<char, 1 << 16> buffer{};
+    while (in.read(buffer.data(), buffer.size()) || in.gcount() > 0)
+        loaded.append(buffer.data(), static_cast<std::size_t>(in.gcount()));
     if (in.bad()) throw Failure("the file cannot be read");
-    std::string loaded = text.str();
     refuseOtherFormats(loaded);
     return loaded;
 }

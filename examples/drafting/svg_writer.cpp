@@ -194,9 +194,10 @@ std::string legend(const Drawing &drawing, const std::vector<ResultLayer> &resul
 
 Box extentsOf(const Drawing &drawing, const std::vector<ResultLayer> &results) {
     Box box = draft::extentsOf(drawing);
-    for (const ResultLayer &layer : results)
+    for (const ResultLayer &layer : results) {
         for (const DTPOINT point : layer.points)
             box.widen(point);
+    }
     return box;
 }
 

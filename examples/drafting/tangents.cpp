@@ -36,9 +36,10 @@ struct CommonTangents {
         ca_cctan(&centerA, a.r, &centerB, b.r, &found[0].from, &found[0].to, &found[1].from,
                  &found[1].to, &found[2].from, &found[2].to, &found[3].from, &found[3].to, &count);
         std::vector<Tangent> tangents;
-        for (std::size_t i = 0; i < count; ++i)
+        for (std::size_t i = 0; i < count; ++i) {
             if (isInRange(a, found[i].from) && isInRange(b, found[i].to))
                 tangents.push_back(found[i]);
+        }
         return tangents;
     }
     template <typename First, typename Second>

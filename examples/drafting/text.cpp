@@ -44,30 +44,31 @@ std::string label(const Drawing &drawing, std::size_t index) {
            std::to_string(index + 1);
 }
 
-std::string Table::text() const {
-    std::vector<std::size_t> widths;
-    std::vector<std::string> heads;
-    for (std::size_t i = 0; i < columns_.size(); ++i) {
-        std::size_t width = columns_[i].head.size();
-        for (const auto &row : rows_)
-            width = std::max(width, row[i].size());
-        widths.push_back(width);
-        heads.push_back(columns_[i].head);
-    }
-    std::string text;
-    const auto addLine = [&](const std::vector<std::string> &cells) {
+void Table::print(std::ostream &out, std::size_t rows,
+                  const std::function<Row(std::size_t)> &row) const {
+    Row heads;
+    for (const Column &column : columns_)
+        heads.push_back(column.head);
+    std::vector<std::size_t> widths(columns_.size(), 0);
+    const auto widen = [&](const Row &cells) {
+        for (std::size_t i = 0; i < cells.size(); ++i)
+            widths[i] = std::max(widths[i], cells[i].size());
+    };
+    const auto print = [&](const Row &cells) {
         std::string line;
         for (std::size_t i = 0; i < cells.size(); ++i) {
             line += "  ";
             appendCell(line, cells[i], widths[i], columns_[i].align);
         }
         line.erase(line.find_last_not_of(' ') + 1);
-        text += line + '\n';
+        out << line << '\n';
     };
-    addLine(heads);
-    for (const auto &row : rows_)
-        addLine(row);
-    return text;
+    widen(heads);
+    for (std::size_t i = 0; i < rows; ++i)
+        widen(row(i));
+    print(heads);
+    for (std::size_t i = 0; i < rows; ++i)
+        print(row(i));
 }
 
 } // namespace draft

@@ -1,6 +1,8 @@
 // Numbers and tables for people.
 #pragma once
 
+#include <functional>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -20,7 +22,8 @@ int decimalsFor(const Box &extents);
 /// "arc #12": how people are told of an entity.
 std::string label(const Drawing &drawing, std::size_t index);
 
-/// Columns as wide as their longest cell.
+/// Columns as wide as their longest cell. The rows are asked for twice, for their widths and
+/// for their text, so that a table of millions of rows needs no memory.
 class Table {
   public:
     enum class Align { left, right };
@@ -28,14 +31,14 @@ class Table {
         std::string head;
         Align align;
     };
+    using Row = std::vector<std::string>;
 
     explicit Table(std::vector<Column> columns) : columns_(std::move(columns)) {}
-    void add(std::vector<std::string> cells) { rows_.push_back(std::move(cells)); }
-    std::string text() const;
+    void print(std::ostream &out, std::size_t rows,
+               const std::function<Row(std::size_t)> &row) const;
 
   private:
     std::vector<Column> columns_;
-    std::vector<std::vector<std::string>> rows_;
 };
 
 } // namespace draft

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <sstream>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -140,6 +141,27 @@ TEST(Intersect, LinesAndEllipsesMeet) {
     };
     for (const Case &c : cases)
         check(scratch, c);
+}
+
+TEST(Intersect, FindsEveryCrossingOfManyAndNoOther) {
+    // Upright and level lines, all across each other, and as many short ones that meet nothing.
+    constexpr int kEach = 150;
+    const Scratch scratch("many");
+    std::string entities;
+    for (int i = 0; i < kEach; ++i) {
+        entities += line(i, -1, i, kEach) + "|" + line(-1, i, kEach, i) + "|";
+        entities += line(i + 0.3, -9, i + 0.6, -9) + (i + 1 < kEach ? "|" : "");
+    }
+    const auto outcome = scratch.draft("intersect --json " + scratch.write("a.dxf", dxf(entities)));
+    ASSERT_EQ(outcome.exitCode, 0) << outcome.err;
+    const auto found = outcome.json()["crossings"];
+    ASSERT_EQ(found.size(), std::size_t{kEach} * kEach);
+    const auto numbers = [&](std::size_t i) {
+        return std::make_pair(found[i]["first"]["number"].get<int>(),
+                              found[i]["second"]["number"].get<int>());
+    };
+    for (std::size_t i = 1; i < found.size(); ++i)
+        ASSERT_LT(numbers(i - 1), numbers(i)) << "pairs come in the order of their numbers";
 }
 
 TEST(Intersect, TellsPeopleInATable) {

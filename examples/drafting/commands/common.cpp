@@ -12,6 +12,14 @@ namespace draft {
 
 namespace {
 
+constexpr int kIndent = 2;
+constexpr int kOneLine = -1;
+
+/// Names in other encodings than UTF-8 must not stop the output.
+std::string textOf(const Json &json, int indent) {
+    return json.dump(indent, ' ', false, Json::error_handler_t::replace);
+}
+
 void tell(const std::string &what, const Tally &tally) {
     if (tally.empty()) return;
     std::string text;
@@ -89,8 +97,16 @@ Json describe(const Drawing &drawing, std::size_t index) {
             {"layer", drawing.layers[entity.layer]}};
 }
 
-void print(const Json &json) {
-    std::cout << json.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+void print(const Json &json) { std::cout << textOf(json, kIndent) << '\n'; }
+
+void printWithList(const Json &head, const std::string &name, std::size_t count,
+                   const std::function<Json(std::size_t)> &element) {
+    std::string text = textOf(head, kIndent);
+    text.resize(text.size() - std::string("\n}").size());
+    std::cout << text << ",\n  " << textOf(name, kOneLine) << ": [";
+    for (std::size_t i = 0; i < count; ++i)
+        std::cout << (i > 0 ? ",\n    " : "\n    ") << textOf(element(i), kOneLine);
+    std::cout << (count > 0 ? "\n  ]\n}\n" : "]\n}\n");
 }
 
 void tellUnknown(const Crossings &crossings) { tell("pairs not looked at", crossings.unknown); }

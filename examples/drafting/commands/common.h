@@ -1,6 +1,7 @@
 // What the commands have in common: the drawing they read and the ways they answer.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include <CLI/CLI.hpp>
@@ -43,6 +44,9 @@ Drawing openDrawing(const std::string &path);
 Json describe(const Drawing &drawing);
 Json describe(const Drawing &drawing, std::size_t index);
 void print(const Json &json);
+/// An object with a list as its last member, which may be longer than memory is wide.
+void printWithList(const Json &head, const std::string &name, std::size_t count,
+                   const std::function<Json(std::size_t)> &element);
 
 /// Pairs that the crossings leave open are told on the error stream.
 void tellUnknown(const Crossings &crossings);

@@ -33,18 +33,25 @@ void printTable(const Drawing &drawing, const std::vector<Divided> &all, int pie
                  {"point", Align::right},
                  {"x", Align::right},
                  {"y", Align::right}});
+    struct Place {
+        const Divided *divided;
+        std::size_t k;
+    };
+    std::vector<Place> places;
     for (const Divided &divided : all) {
-        std::size_t k = 0;
-        for (const DTPOINT point : divided.division.points) {
-            const bool isFirst = ++k == 1;
-            table.add({isFirst ? label(drawing, divided.index) : "",
-                       isFirst ? fixed(divided.division.pieceLength, decimals) : "",
-                       std::to_string(k), fixed(point.x, decimals), fixed(point.y, decimals)});
-        }
+        for (std::size_t k = 0; k < divided.division.points.size(); ++k)
+            places.push_back({&divided, k});
     }
     std::cout << drawing.path << ": " << inventory(drawing) << "\n"
-              << countedAs(static_cast<std::size_t>(pieces), "piece") << " of each\n\n"
-              << table.text();
+              << countedAs(static_cast<std::size_t>(pieces), "piece") << " of each\n\n";
+    table.print(std::cout, places.size(), [&](std::size_t i) {
+        const auto [divided, k] = places[i];
+        const DTPOINT point = divided->division.points[k];
+        return Table::Row{k == 0 ? label(drawing, divided->index) : "",
+                          k == 0 ? fixed(divided->division.pieceLength, decimals) : "",
+                          std::to_string(k + 1), fixed(point.x, decimals),
+                          fixed(point.y, decimals)};
+    });
 }
 
 void printJson(const Drawing &drawing, const std::vector<Divided> &all) {

@@ -21,28 +21,28 @@ void printTable(const Drawing &drawing, const Crossings &crossings) {
                  {"first", Align::left},
                  {"second", Align::left},
                  {"", Align::left}});
-    for (std::size_t i = 0; i < crossings.found.size(); ++i) {
-        const Crossing &c = crossings.found[i];
-        table.add({std::to_string(i + 1), fixed(c.at.x, decimals), fixed(c.at.y, decimals),
-                   label(drawing, c.first), label(drawing, c.second),
-                   c.kind == CrossingKind::crossing ? "" : nameOf(c.kind)});
-    }
     std::cout << drawing.path << ": " << inventory(drawing) << "\n"
               << summary(layersOf(crossings)) << "\n";
-    if (!crossings.found.empty()) std::cout << "\n" << table.text();
+    if (crossings.found.empty()) return;
+    std::cout << "\n";
+    table.print(std::cout, crossings.found.size(), [&](std::size_t i) {
+        const Crossing &c = crossings.found[i];
+        return Table::Row{
+            std::to_string(i + 1),    fixed(c.at.x, decimals),
+            fixed(c.at.y, decimals),  label(drawing, c.first),
+            label(drawing, c.second), c.kind == CrossingKind::crossing ? "" : nameOf(c.kind)};
+    });
 }
 
 void printJson(const Drawing &drawing, const Crossings &crossings) {
-    Json json = describe(drawing);
-    json["crossings"] = Json::array();
-    for (const Crossing &c : crossings.found) {
-        json["crossings"].push_back({{"x", c.at.x},
-                                     {"y", c.at.y},
-                                     {"first", describe(drawing, c.first)},
-                                     {"second", describe(drawing, c.second)},
-                                     {"kind", nameOf(c.kind)}});
-    }
-    print(json);
+    printWithList(describe(drawing), "crossings", crossings.found.size(), [&](std::size_t i) {
+        const Crossing &c = crossings.found[i];
+        return Json{{"x", c.at.x},
+                    {"y", c.at.y},
+                    {"kind", nameOf(c.kind)},
+                    {"first", describe(drawing, c.first)},
+                    {"second", describe(drawing, c.second)}};
+    });
 }
 
 void run(const CommonOptions &options) {

@@ -45,12 +45,17 @@ Report reportOf(const Drawing &drawing) {
     return report;
 }
 
-void addRow(Table &table, const Row &row, int decimals) {
+Table::Row cellsOf(const Row &row, int decimals) {
     const Box &box = row.extents;
     const auto number = [&](double value) { return box.empty() ? "" : fixed(value, decimals); };
     const std::optional<double> area = row.measure.area;
-    table.add({row.name, fixed(row.measure.length, decimals), area ? fixed(*area, decimals) : "",
-               number(box.minX), number(box.minY), number(box.maxX), number(box.maxY)});
+    return {row.name,
+            fixed(row.measure.length, decimals),
+            area ? fixed(*area, decimals) : "",
+            number(box.minX),
+            number(box.minY),
+            number(box.maxX),
+            number(box.maxY)};
 }
 
 void printTable(const Drawing &drawing, const Report &report) {
@@ -63,12 +68,14 @@ void printTable(const Drawing &drawing, const Report &report) {
                  {"from y", Align::right},
                  {"to x", Align::right},
                  {"to y", Align::right}});
-    for (const Row &row : report.entities)
-        addRow(table, row, decimals);
-    for (const Row &row : report.outlines)
-        addRow(table, row, decimals);
-    addRow(table, report.total, decimals);
-    std::cout << drawing.path << ": " << inventory(drawing) << "\n\n" << table.text();
+    std::vector<const Row *> rows;
+    for (const auto *list : {&report.entities, &report.outlines}) {
+        for (const Row &row : *list)
+            rows.push_back(&row);
+    }
+    rows.push_back(&report.total);
+    std::cout << drawing.path << ": " << inventory(drawing) << "\n\n";
+    table.print(std::cout, rows.size(), [&](std::size_t i) { return cellsOf(*rows[i], decimals); });
 }
 
 Json jsonOf(const Measure &measure, const Box &box) {

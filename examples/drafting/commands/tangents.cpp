@@ -80,15 +80,20 @@ void printTable(const Drawing &drawing, const std::vector<Found> &all) {
                  {"x", Align::right},
                  {"y", Align::right},
                  {"length", Align::right}});
-    for (const Found &found : all) {
-        const Tangent &t = found.tangent;
-        table.add({found.first ? label(drawing, *found.first) : "point", fixed(t.from.x, decimals),
-                   fixed(t.from.y, decimals), label(drawing, found.second), fixed(t.to.x, decimals),
-                   fixed(t.to.y, decimals), fixed(ca_dstpt(&t.from, &t.to), decimals)});
-    }
     std::cout << drawing.path << ": " << inventory(drawing) << "\n"
               << countedAs(all.size(), "tangent") << "\n";
-    if (!all.empty()) std::cout << "\n" << table.text();
+    if (all.empty()) return;
+    std::cout << "\n";
+    table.print(std::cout, all.size(), [&](std::size_t i) {
+        const Tangent &t = all[i].tangent;
+        return Table::Row{all[i].first ? label(drawing, *all[i].first) : "point",
+                          fixed(t.from.x, decimals),
+                          fixed(t.from.y, decimals),
+                          label(drawing, all[i].second),
+                          fixed(t.to.x, decimals),
+                          fixed(t.to.y, decimals),
+                          fixed(ca_dstpt(&t.from, &t.to), decimals)};
+    });
 }
 
 void printJson(const Drawing &drawing, const std::vector<Found> &all) {
@@ -108,9 +113,10 @@ void printJson(const Drawing &drawing, const std::vector<Found> &all) {
 
 void run(const Options &options) {
     const Drawing drawing = openDrawing(options.file);
-    if (options.from.empty() && options.entities.size() < 2)
+    if (options.from.empty() && options.entities.size() < 2) {
         throw Failure("tangents are drawn from a point (--from X,Y) or between two or more curves "
                       "(-e 3,7)");
+    }
     const std::vector<std::size_t> curves = curvesOf(drawing, options);
     const std::vector<Found> all =
         options.from.empty()
