@@ -1760,10 +1760,103 @@ PLANEGEO_API int32_t PLANEGEO_CALL a2d_chk_distdeg(const DTPOINT *points, int32_
 /** @defgroup ellipseTangents Ellipses: tangents
  *  @{ */
 
+/**
+ * Finds the common tangents of two ellipses, each by its point of contact on
+ * ellipse 1 and on ellipse 2: (t1, t2), (t3, t4), (t5, t6), (t7, t8).
+ *
+ * Ellipses apart have two outer tangents and two inner ones, which cross between
+ * them; ellipses that cross have two outer ones, or four where they cross four
+ * times; one inside the other has none. Outer tangents come first. Each kind is
+ * ordered by the direction from ellipse 1 square to the line, measured from the
+ * direction of centre 2 in (-180, 180] (from the first axis of ellipse 1 where the
+ * centres coincide within errdist): for two circles the tangent to the right of
+ * the direction from centre 1 to centre 2 is before that to its left.
+ *
+ * Where the ellipses touch within errdist two tangents merge into the one at that
+ * point, where both points of contact would coincide: it is not given.
+ *
+ * @param[in]  center1,center2,a1,a2,b1,b2,rot1,rot2 the full ellipses; either axis may
+ *             be the longer
+ * @param[out] t1,t2,t3,t4,t5,t6,t7,t8 the points of contact; untouched beyond the count
+ * @param[out] count number of tangents: 0, 2 or 4
+ * @return 0 done; 1 the ellipses coincide within errdist; 2 one lies inside the
+ *         other, touching or not; -1 an axis is not longer than errdist, or an
+ *         argument is not finite
+ * @see ca_cctan for circles
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_tch2e(const DTPOINT *center1, const DTPOINT *center2,
+                                             double a1, double a2, double b1, double b2,
+                                             double rot1, double rot2, DTPOINT *t1, DTPOINT *t2,
+                                             DTPOINT *t3, DTPOINT *t4, DTPOINT *t5, DTPOINT *t6,
+                                             DTPOINT *t7, DTPOINT *t8, uint16_t *count);
+
 /** @} */
 
 /** @defgroup ellipseDistance Ellipses: distance
+ *  Angles of an arc are parametric.
  *  @{ */
+
+/**
+ * Tells whether a point lies on, outside or inside a full ellipse.
+ *
+ * The point counts as on the ellipse when A^2 y^2 + B^2 x^2 - A^2 B^2, with half
+ * axes A and B and the point in the frame of the ellipse, is at most 0.0001. That
+ * is a length to the fourth: a band wide for small ellipses, narrow for large
+ * ones. A difference so small is formed with twice the digits of a double.
+ *
+ * @param[in] p the point
+ * @param[in] e the ellipse; start and end are not read, either axis may be the longer
+ * @return 0 on, 1 outside, 2 inside; 2 for a NaN
+ * @see ca_posel for a tolerance that is a length
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_distpe(const DTPOINT *p, const DTELLIPSE *e);
+
+/**
+ * Finds the nearest sample of an elliptic arc: at whole degrees of the parameter
+ * from the start on, then at tenths of a degree within a degree of the best.
+ *
+ * The answer is exact to 0.1 degrees of the parameter, not to rounding; of equal
+ * distances the earlier sample counts. The end itself is a sample only where whole
+ * degrees, or then tenths, lead to it. Equal start and end are that one point,
+ * except for a point on the whole ellipse with both 0 (see ca_onelp()).
+ *
+ * @param[in]  center,a,b,rot the ellipse
+ * @param[in]  angles start and end, degrees; a start above the end means an arc
+ *             through 0; of a span beyond a turn the first 363 degrees are
+ *             sampled; the step ends where it no longer changes the angle
+ * @param[in]  p   the point
+ * @param[out] out the nearest sample, coordinates below 1e-6 as 0; @p p itself where
+ *             it lies on the arc by ca_onelp(); (0, 0) for an angle that is NaN
+ * @return the distance of that sample; 0 on the arc; NaN for an angle that is NaN
+ * @see a2d_dstpp for the true nearest point
+ */
+PLANEGEO_API double PLANEGEO_CALL ca_dstpp(const DTPOINT *center, double a, double b, double rot,
+                                           const double *angles, const DTPOINT *p, DTPOINT *out);
+/** Returns the distance of ca_dstpp() alone. */
+PLANEGEO_API double PLANEGEO_CALL ca_dstpe(const DTPOINT *center, double a, double b, double rot,
+                                           const double *angles, const DTPOINT *p);
+
+/**
+ * Finds the nearest point of an elliptic arc, to rounding.
+ *
+ * The point is the foot of a normal or an end of the arc; the distance is right to
+ * 1e-15 of itself or of the longer axis, whichever is larger. Circles, flat
+ * ellipses down to segments, and points on the axes and the evolute need no care.
+ * Of two nearest points either may be given.
+ *
+ * @param[in]  center,a,b,rot the ellipse; either axis may be the longer, or zero
+ * @param[in]  angles start and end, degrees, any that a2d_StdSedeg() takes; equal
+ *             ends mean the whole ellipse
+ * @param[in]  p   the point
+ * @param[out] out the nearest point; @p p itself where it is nearer than errdist
+ * @return the distance; 0 where it is below errdist
+ * @see ca_dstpp for the sampled distance of older hosts
+ */
+PLANEGEO_API double PLANEGEO_CALL a2d_dstpp(const DTPOINT *center, double a, double b, double rot,
+                                            const double *angles, const DTPOINT *p, DTPOINT *out);
+/** Returns the distance of a2d_dstpp() alone. */
+PLANEGEO_API double PLANEGEO_CALL a2d_dstpe(const DTPOINT *center, double a, double b, double rot,
+                                            const double *angles, const DTPOINT *p);
 
 /** @} */
 

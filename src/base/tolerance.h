@@ -196,4 +196,9 @@ inline constexpr double kSameParameterDeg = 1e-8;
 
 // Ellipses: perpendiculars, tangents, distances.
 
+/// A^2 y^2 + B^2 x^2 - A^2 B^2 of a point on the ellipse, a length to the fourth (<=): a2d_distpe.
+inline constexpr double kOnCurveValue = 0.0001;
+/// A coordinate of the nearest sample that counts as zero (<): ca_dstpp.
+inline constexpr double kSampleSnapLength = 1e-6;
+
 } // namespace planegeo

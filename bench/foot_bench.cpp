@@ -1,0 +1,82 @@
+// Points against ellipses: distances, feet of perpendiculars, tangents. The row plain/ca_dstpp
+// evaluates the same steps sample by sample.
+
+#include "../tests/plain_distance.h"
+#include "table.h"
+
+namespace {
+
+using bench::Random;
+using bench::row;
+
+struct PointAndEllipse {
+    DTPOINT p, center;
+    double a, b, rot;
+    double angles[2];
+
+    DTELLIPSE record() const { return {0, center.x, center.y, a, b, angles[0], angles[1], rot}; }
+};
+struct TwoEllipses {
+    PointAndEllipse e, f;
+};
+
+/// The first axis is the longer; the point may lie inside.
+PointAndEllipse wholeEllipse(Random &random) {
+    const double a = random.length(), b = random.length();
+    const DTPOINT p = random.point(), center = random.point();
+    return {p, center, std::fmax(a, b), std::fmin(a, b), random.angleDeg(), {0.0, 360.0}};
+}
+PointAndEllipse ellipticArc(Random &random) {
+    PointAndEllipse in = wholeEllipse(random);
+    in.angles[0] = random.angleDeg();
+    in.angles[1] = in.angles[0] + random.angleDeg();
+    return in;
+}
+TwoEllipses twoEllipses(Random &random) { return {wholeEllipse(random), wholeEllipse(random)}; }
+
+double plainly(const DTPOINT *center, double a, double b, double rot, const double *angles,
+               const DTPOINT *p, DTPOINT *out) {
+    return plain::dstpp(*center, a, b, rot, angles, *p, out);
+}
+
+template <class Make, class Call> int nearestRow(const char *name, Make make, Call call) {
+    return row(name, make, [call](const PointAndEllipse &in) {
+        DTPOINT out;
+        return call(&in.center, in.a, in.b, in.rot, in.angles, &in.p, &out) + out.x;
+    });
+}
+template <class Call> int distanceRow(const char *name, Call call) {
+    return row(name, ellipticArc, [call](const PointAndEllipse &in) {
+        return call(&in.center, in.a, in.b, in.rot, in.angles, &in.p);
+    });
+}
+
+const int kDistances[] = {
+    row("a2d_distpe", wholeEllipse,
+        [](const PointAndEllipse &in) {
+            const DTELLIPSE e = in.record();
+            return a2d_distpe(&in.p, &e);
+        }),
+    nearestRow("ca_dstpp/whole", wholeEllipse, ca_dstpp),
+    nearestRow("plain/ca_dstpp/whole", wholeEllipse, plainly),
+    nearestRow("ca_dstpp/arc", ellipticArc, ca_dstpp),
+    nearestRow("plain/ca_dstpp/arc", ellipticArc, plainly),
+    distanceRow("ca_dstpe", ca_dstpe),
+    nearestRow("a2d_dstpp/whole", wholeEllipse, a2d_dstpp),
+    nearestRow("a2d_dstpp/arc", ellipticArc, a2d_dstpp),
+    distanceRow("a2d_dstpe", a2d_dstpe),
+};
+
+const int kTangents[] = {
+    row("a2d_tch2e", twoEllipses,
+        [](const TwoEllipses &in) {
+            const PointAndEllipse &e = in.e, &f = in.f;
+            DTPOINT t[8] = {};
+            uint16_t count;
+            return a2d_tch2e(&e.center, &f.center, e.a, f.a, e.b, f.b, e.rot, f.rot, t, t + 1,
+                             t + 2, t + 3, t + 4, t + 5, t + 6, t + 7, &count) +
+                   t[0].x + count;
+        }),
+};
+
+} // namespace
