@@ -24,7 +24,7 @@ struct Crossing {
 
 struct Crossings {
     std::vector<Crossing> found; ///< by first, then by second
-    Tally unknown;               ///< pairs near each other that the library cannot answer
+    Tally unknown;               ///< pairs near each other that the library refuses
 };
 
 Crossings crossingsOf(const Drawing &drawing);

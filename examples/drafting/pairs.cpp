@@ -3,7 +3,10 @@
 
 #include "pairs.h"
 
+#include <algorithm>
 #include <cmath>
+
+#include "conics.h"
 
 namespace draft {
 
@@ -29,7 +32,10 @@ bool isOn(const DTARC &arc, DTPOINT p) {
     return a2d_ChkDegr(arc.start, arc.end, atan2d(p.y - arc.cy, p.x - arc.cx)) == 0;
 }
 
-/// Two stretches of one line or one circle meet where an end of one lies on the other, and
+/// Of a point on the arc's ellipse.
+bool isOn(const DTELLIPSE &arc, DTPOINT p) { return CheckEllipseArcAngle(&arc, &p) == 0; }
+
+/// Two stretches of one line, circle or ellipse meet where an end of one lies on the other, and
 /// overlap when such an end lies within the other or when the stretches are the same.
 template <typename Curve>
 Meeting meetingOnOneCurve(const Curve &a, const Curve &b, DTPOINT middleOfA) {
@@ -59,6 +65,8 @@ DTPOINT middleOf(const DTLINE &line) {
     return {(line.x1 + line.x2) / 2.0, (line.y1 + line.y2) / 2.0};
 }
 DTPOINT middleOf(const DTARC &arc) { return pointAt(arc, (arc.start + arc.end) / 2.0); }
+
+DTPOINT middleOf(const DTELLIPSE &arc) { return pointAt(arc, (arc.start + arc.end) / 2.0); }
 
 bool areOnOneCircle(const DTARC &a, const DTARC &b) {
     return isTogether(centerOf(a), centerOf(b)) && std::fabs(a.r - b.r) < ca_geterrdist();
@@ -121,12 +129,59 @@ struct MeetingOf {
         return meeting;
     }
 
-    Meeting operator()(const DTARC & /*arc*/, const DTELLIPSE & /*e*/) const { return unknown(); }
-    Meeting operator()(const DTELLIPSE & /*a*/, const DTELLIPSE & /*b*/) const { return unknown(); }
+    Meeting operator()(const DTARC &arc, const DTELLIPSE &given) const {
+        if (const auto round = asArc(given)) return (*this)(arc, *round);
+        const DTELLIPSE ellipse = canonical(given);
+        const PairFrame frame(centerOf(arc), std::min(2.0 * arc.r, ellipse.b));
+        const DTARC a = frame.in(arc);
+        const DTELLIPSE e = frame.in(ellipse);
+        const std::array<double, 2> angles = {a.start, a.end};
+        const std::array<double, 2> range = {e.start, e.end};
+        std::array<DTPOINT, 4> p{};
+        std::int16_t count = 0;
+        if (ca_insce(&a.cx, a.r, angles.data(), &e.cx, e.a, e.b, e.rot, range.data(), &p[0], &p[1],
+                     &p[2], &p[3], &count) != 0)
+            return unknown();
+        return trusted(p, count, a, e, frame);
+    }
+
+    Meeting operator()(const DTELLIPSE &first, const DTELLIPSE &second) const {
+        if (const auto round = asArc(first)) return (*this)(*round, second);
+        if (const auto round = asArc(second)) return (*this)(*round, first);
+        const DTELLIPSE a = canonical(first);
+        const DTELLIPSE b = canonical(second);
+        if (areOnOneEllipse(a, b)) return meetingOnOneCurve(a, b, middleOf(a));
+        const PairFrame frame(centerOf(a), std::min(a.b, b.b));
+        return meetingOfEllipses(frame.in(a), frame.in(b), frame);
+    }
 
     Meeting operator()(const DTARC &arc, const DTLINE &line) const { return (*this)(line, arc); }
     Meeting operator()(const DTELLIPSE &e, const DTLINE &line) const { return (*this)(line, e); }
     Meeting operator()(const DTELLIPSE &e, const DTARC &arc) const { return (*this)(arc, e); }
+
+    static Meeting meetingOfEllipses(const DTELLIPSE &a, const DTELLIPSE &b,
+                                     const PairFrame &frame) {
+        const std::array<double, 2> rangeA = {a.start, a.end};
+        const std::array<double, 2> rangeB = {b.start, b.end};
+        std::array<DTPOINT, 4> p{};
+        std::int16_t count = 0;
+        if (ca_ins2e(&a.cx, &b.cx, a.a, b.a, a.b, b.b, a.rot, b.rot, rangeA.data(), rangeB.data(),
+                     &p[0], &p[1], &p[2], &p[3], &count) < 0)
+            return unknown();
+        return trusted(p, count, a, b, frame);
+    }
+
+    /// In the limit of a touch the library may give points that lie on one curve only.
+    template <typename First, typename Second>
+    static Meeting trusted(const std::array<DTPOINT, 4> &points, int count, const First &first,
+                           const Second &second, const PairFrame &frame) {
+        Meeting meeting;
+        for (int i = 0; i < count; ++i) {
+            const DTPOINT p = points[static_cast<std::size_t>(i)];
+            if (isNear(first, p) && isNear(second, p)) addOnce(meeting, frame.out(p));
+        }
+        return meeting;
+    }
 
     static Meeting unknown() {
         Meeting meeting;

@@ -15,7 +15,7 @@ struct Meeting {
     std::array<DTPOINT, kMost> points{};
     std::size_t count = 0;
     bool overlaps = false; ///< the shapes share a stretch; the points are its ends
-    bool known = true;     ///< false where the library has no answer for the pair
+    bool known = true;     ///< false where the library refuses the pair
 
     void add(DTPOINT p) { points[count++] = p; }
 };

@@ -143,6 +143,41 @@ TEST(Intersect, LinesAndEllipsesMeet) {
         check(scratch, c);
 }
 
+TEST(Intersect, EllipsesMeetCirclesAndEachOther) {
+    const Scratch scratch("conics");
+    const double x = std::sqrt(3.375); // of x^2 + y^2 = 4 with x^2 + 9 y^2 = 9
+    const double y = std::sqrt(0.625);
+    const double s =
+        2.0 / std::sqrt(1.25); // of x^2 / 4 + y^2 / 16 = 1 with its quarter turn, x = y
+    const Case cases[] = {
+        {"circle", circle(0, 0, 2), ellipse(0, 0, 3, 1), {{x, y}, {-x, y}, {x, -y}, {-x, -y}}},
+        {"arc", arc(0, 0, 2, 0, 90), ellipse(0, 0, 3, 1), {{x, y}}},
+        {"elliptic arc", circle(0, 0, 2), ellipse(0, 0, 3, 1, 0.5, 1), {{x, -y}, {-x, -y}}},
+        {"touching", circle(5, 0, 2), ellipse(0, 0, 3, 1), {{3, 0}}},
+        {"second axis longer",
+         ellipse(0, 0, 2, 4),
+         ellipse(0, 0, 4, 2),
+         {{s, s}, {-s, s}, {s, -s}, {-s, -s}}},
+        {"round ellipse", circle(0, 0, 5), ellipse(6, 0, 5, 5), {{3, 4}, {3, -4}}},
+        {"small as a pin",
+         circle(0, 0, 0.002),
+         ellipse(0, 0, 0.003, 0.001),
+         {{x / 1000, y / 1000},
+          {-x / 1000, y / 1000},
+          {x / 1000, -y / 1000},
+          {-x / 1000, -y / 1000}}},
+        {"small and apart", circle(0.01, 0.02, 0.002), ellipse(0, 0, 0.003, 0.001), {}},
+        {"halves of one ellipse, by other axes",
+         ellipse(1, 0, 5, 2, 0, 0.5),
+         ellipse(1, 0, -5, -2, 0, 0.5),
+         {{6, 0}, {-4, 0}},
+         "joint"},
+        {"an ellipse twice", ellipse(1, 0, 5, 2), ellipse(1, 0, -5, -2), {{-4, 0}}, "overlap"},
+    };
+    for (const Case &c : cases)
+        check(scratch, c);
+}
+
 TEST(Intersect, FindsEveryCrossingOfManyAndNoOther) {
     // Upright and level lines, all across each other, and as many short ones that meet nothing.
     constexpr int kEach = 150;

@@ -109,7 +109,7 @@ void printWithList(const Json &head, const std::string &name, std::size_t count,
     std::cout << (count > 0 ? "\n  ]\n}\n" : "]\n}\n");
 }
 
-void tellUnknown(const Crossings &crossings) { tell("pairs not looked at", crossings.unknown); }
+void tellUnknown(const Crossings &crossings) { tell("pairs without an answer", crossings.unknown); }
 
 std::vector<ResultLayer> layersOf(const Crossings &crossings) {
     std::array<ResultLayer, kCrossingKindCount> byKind;
