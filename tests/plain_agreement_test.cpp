@@ -224,9 +224,13 @@ TEST(PlainAgreement, divisionTables) {
 
 /// Samples are found by adding degree after degree, and one more or less changes every piece.
 TEST(PlainAgreement, samplesOfAPolyline) {
-    const Range ranges[] = {{-100.0, -1e-20},         {0.1, 180.1},
-                            {0.1, 180.0999999999999}, {-0.3, 59.7},
-                            {1e5 + 0.1, 1e5 + 60.1},  {30.5, 390.5}};
+    std::vector<Range> ranges = {{-100.0, -1e-20}, {1e5 + 0.1, 1e5 + 60.1}, {30.5, 390.5}};
+    Random random(7008);
+    for (int i = 0; i < 300; ++i) {
+        const double lo = random.uniform(-300, 100), hi = lo + std::floor(random.uniform(2, 361));
+        ranges.push_back({lo, hi});
+        ranges.push_back({lo, std::nextafter(hi, -500.0)});
+    }
     for (const Range &r : ranges) {
         const plain::Arc arc = {{0, 0}, 6, 4, 0, r.lo, r.hi};
         const double angles[2] = {r.lo, r.hi}, want = plain::divide(arc, 7, 3).piece;
