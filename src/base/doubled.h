@@ -50,6 +50,11 @@ inline Doubled operator*(Doubled v, Doubled w) {
     const Doubled p = Doubled::product(v.hi, w.hi);
     return Doubled::ordered(p.hi, p.lo + (v.hi * w.lo + v.lo * w.hi));
 }
+inline Doubled operator*(Doubled v, double w) {
+    const Doubled p = Doubled::product(v.hi, w);
+    return Doubled::ordered(p.hi, p.lo + v.lo * w);
+}
+inline Doubled operator*(double v, Doubled w) { return w * v; }
 inline Doubled squared(Doubled v) { return v * v; }
 
 inline Doubled operator/(Doubled v, Doubled w) {

@@ -40,13 +40,13 @@ std::optional<LineCrossing> crossLineEllipse(const Segment &line, const EllipseF
     const double h = k * crossWithUnit(d, length, ellipse.center - line.start) / stretch;
     const double gap = std::fabs(h) - r;
     const Vec2 foot = leftNormal(v) * -h;
-    const auto toPlane = [&](Vec2 q) { return ellipse.toPlane({q.x, q.y / k}); };
+    const auto unstretched = [&](Vec2 q) { return ellipse.turn.apply({q.x, q.y / k}); };
 
-    if (tolerance > std::fabs(gap)) return LineCrossing{1, {toPlane(foot)}};
+    if (tolerance > std::fabs(gap)) return LineCrossing{1, {unstretched(foot)}};
     if (!(gap <= tolerance)) return LineCrossing{};
     const double root = std::sqrt(-gap * (r + std::fabs(h))); // r^2 - h^2
     const Vec2 half = v * (std::isfinite(root) ? root : 0.0);
-    return LineCrossing{2, {toPlane(foot + half), toPlane(foot - half)}};
+    return LineCrossing{2, {unstretched(foot + half), unstretched(foot - half)}};
 }
 
 } // namespace planegeo
@@ -55,9 +55,10 @@ namespace {
 
 using namespace planegeo;
 
-void store(const LineCrossing &crossing, DTPOINT *out1, DTPOINT *out2) {
-    store(crossing.points[0], out1);
-    store(crossing.points[1], out2);
+void store(const LineCrossing &crossing, Vec2 center, DTPOINT *out1, DTPOINT *out2) {
+    constexpr Vec2 kMissing = {0.0, 0.0};
+    store(crossing.count > 0 ? crossing.points[0] + center : kMissing, out1);
+    store(crossing.count > 1 ? crossing.points[1] + center : kMissing, out2);
 }
 
 /// What an elliptic arc, given by the parameters of its ends, keeps of the points. Directions of
@@ -71,7 +72,7 @@ LineCrossing keptOnArc(const LineCrossing &crossing, const EllipseFrame &ellipse
     LineCrossing kept;
     for (std::uint32_t i = 0; i < crossing.count; ++i) {
         const Vec2 point = crossing.points[i];
-        const double deg = snappedDirectionRad(point - ellipse.center) * kDegPerRad - rotationDeg;
+        const double deg = snappedDirectionRad(point) * kDegPerRad - rotationDeg;
         if (isOnArc(arc.start, arc.end, deg)) kept.points[kept.count++] = point;
     }
     return kept;
@@ -83,21 +84,21 @@ extern "C" {
 
 int32_t a2d_CrsLE(const DTPOINT *p1, const DTPOINT *p2, const DTPOINT *center, double a, double b,
                   double rot, DTPOINT *out1, DTPOINT *out2, uint32_t *count, double tol) {
-    const auto crossing =
-        crossLineEllipse(load(p1, p2), EllipseFrame::of(load(center), a, b, rot), tol);
+    const EllipseFrame ellipse = EllipseFrame::of(load(center), a, b, rot);
+    const auto crossing = crossLineEllipse(load(p1, p2), ellipse, tol);
     *count = crossing ? crossing->count : 0;
     if (!crossing) return 1;
-    store(*crossing, out1, out2);
+    store(*crossing, ellipse.center, out1, out2);
     return 0;
 }
 
 int32_t a2d_insle(const DTPOINT *p1, const DTPOINT *p2, const DTPOINT *center, double a, double b,
                   double rot, DTPOINT *out1, DTPOINT *out2, uint16_t *count) {
-    const auto crossing = crossLineEllipse(load(p1, p2), EllipseFrame::of(load(center), a, b, rot),
-                                           distanceTolerance());
+    const EllipseFrame ellipse = EllipseFrame::of(load(center), a, b, rot);
+    const auto crossing = crossLineEllipse(load(p1, p2), ellipse, distanceTolerance());
     *count = static_cast<uint16_t>(crossing ? crossing->count : 0);
     if (!crossing) return -1;
-    store(*crossing, out1, out2);
+    store(*crossing, ellipse.center, out1, out2);
     return 0;
 }
 
@@ -119,7 +120,7 @@ int32_t a2d_insl1(const DTPOINT *p1, const DTPOINT *p2, const DTPOINT *center, d
     if (!crossing) return -1;
     const LineCrossing kept = keptOnArc(*crossing, ellipse, rot, angles);
     *count = static_cast<uint16_t>(kept.count);
-    store(kept, out1, out2);
+    store(kept, ellipse.center, out1, out2);
     return 0;
 }
 

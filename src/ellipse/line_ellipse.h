@@ -15,7 +15,8 @@ struct LineCrossing {
 };
 
 /// The infinite line through two points against an ellipse, by stretching the plane across the
-/// first axis so that the ellipse becomes a circle. The first point lies on the line's start
+/// first axis so that the ellipse becomes a circle. The points are seen from the ellipse's centre:
+/// far from the origin the plane's coordinates would round them. The first lies on the line's start
 /// side. Nothing for a zero axis, or a line or its stretched direction shorter than the tolerance.
 std::optional<LineCrossing> crossLineEllipse(const Segment &line, const EllipseFrame &ellipse,
                                              double tolerance);

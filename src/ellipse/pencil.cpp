@@ -23,14 +23,15 @@ namespace {
 /// s^3 - alpha s^2 + k s - xi^2, seen from s = 0.
 struct PencilCubic {
     Doubled xi;
+    Doubled xi2;
     Doubled alpha;
     Doubled k;
 
-    PencilCubic(Doubled atZero, Doubled atOne, Doubled g)
-        : xi(atZero), alpha(1.0 - g), k(squared(atZero) + squared(atOne) - g) {}
+    PencilCubic(Doubled atZero, Doubled atZero2, Doubled atOne2, Doubled g)
+        : xi(atZero), xi2(atZero2), alpha(1.0 - g), k(atZero2 + atOne2 - g) {}
 
-    double at(double s) const { return ((s - alpha.hi) * s + k.hi) * s - xi.hi * xi.hi; }
-    Doubled at(Doubled s) const { return ((s - alpha) * s + k) * s - squared(xi); }
+    double at(double s) const { return ((s - alpha.hi) * s + k.hi) * s - xi2.hi; }
+    Doubled at(Doubled s) const { return ((s - alpha) * s + k) * s - xi2; }
     double slopeAt(double s) const { return (3.0 * s - 2.0 * alpha.hi) * s + k.hi; }
 
     double inflection() const { return alpha.hi / 3.0; }
@@ -96,8 +97,9 @@ Pencil::Pencil(const CircleAndEllipse &curves)
 }
 
 std::array<LineCut, 2> Pencil::lines() const {
-    const PencilCubic fromZero(xi, eta, g);
-    const PencilCubic fromOne(eta, xi, -1.0 - g);
+    const Doubled xi2 = squared(xi), eta2 = squared(eta);
+    const PencilCubic fromZero(xi, xi2, eta2, g);
+    const PencilCubic fromOne(eta, eta2, xi2, -1.0 - g);
     const bool before = fromZero.inflection() <= 0.5 ? fromZero.hasOuterRootBefore()
                                                      : !fromOne.hasOuterRootBefore();
     const bool rising = (before ? fromZero : fromOne).isNearZero();
