@@ -69,15 +69,13 @@ struct PencilCubic {
 };
 
 /// Where the line  normal . p = offset  meets the unit circle, in the circle's own size and place.
-LineCut cutUnitCircle(Doubled normalX, Doubled normalY, Doubled offset, const Pencil &pencil) {
-    const auto [signX, signY] = pencil.quadrant;
+LineCut cutUnitCircle(Vec2 normal, Doubled offset, const Pencil &pencil) {
     const Doubled rest = (1.0 - offset) * (1.0 + offset);
-    const bool isReal = rest.hi >= 0.0;
-    const Doubled foot = offset * pencil.r;
-    const Doubled half = squareRoot(isReal ? rest : -rest) * pencil.r;
-    return {{signX * (foot * normalX).value(), signY * (foot * normalY).value()},
-            {-signX * (half * normalY).value(), signY * (half * normalX).value()},
-            isReal};
+    const auto placed = [&](Vec2 v, double length) {
+        return Vec2{pencil.quadrant.x * v.x, pencil.quadrant.y * v.y} * (length * pencil.r);
+    };
+    return {placed(normal, offset.value()),
+            placed(leftNormal(normal), std::sqrt(std::fabs(rest.value()))), rest.hi >= 0.0};
 }
 
 } // namespace
@@ -108,9 +106,10 @@ std::array<LineCut, 2> Pencil::lines() const {
         (nearZero ? fromZero : fromOne).rootFrom(rising ? 0.0 : 0.5, rising ? 1.0 : -1.0);
     const Doubled s = nearZero ? root : 1.0 - root;
     const Doubled t = nearZero ? 1.0 - root : root;
-    const Doubled x = squareRoot(s), y = squareRoot(t);
+    const Vec2 normal = {std::sqrt(s.value()), std::sqrt(t.value())};
     const Doubled far = fromZero.ratioAt(s) + fromOne.ratioAt(t);
-    return {cutUnitCircle(x, y, (g + s) / far, *this), cutUnitCircle(-x, y, far, *this)};
+    return {cutUnitCircle(normal, (g + s) / far, *this),
+            cutUnitCircle({-normal.x, normal.y}, far, *this)};
 }
 
 } // namespace planegeo
