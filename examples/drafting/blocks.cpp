@@ -21,7 +21,7 @@ class Unfolding {
     void addDrawing() {
         countLeftOut("");
         const auto itself = blocks_.find("");
-        if (itself != blocks_.end()) addItems(itself->second, {Affine{}, kLayerZero, 1});
+        if (itself != blocks_.end()) addItems(itself->second, {Affine{}, kLayerZero, kNowhere, 1});
     }
 
   private:
@@ -29,9 +29,11 @@ class Unfolding {
     struct Place {
         Affine affine;
         std::uint32_t layer;
+        std::uint32_t source; ///< of the outermost insert
         int depth;
 
         std::uint32_t layerOf(std::uint32_t own) const { return own == kLayerZero ? layer : own; }
+        std::uint32_t sourceOf(std::uint32_t own) const { return own == kNowhere ? source : own; }
     };
 
     void addItems(const Block &block, const Place &place) {
@@ -42,8 +44,8 @@ class Unfolding {
     }
 
     void add(const Entity &entity, const Place &place) {
-        drawing_.entities.push_back(
-            {placed(entity.shape, place.affine), place.layerOf(entity.layer)});
+        drawing_.entities.push_back({placed(entity.shape, place.affine),
+                                     place.layerOf(entity.layer), place.sourceOf(entity.source)});
     }
 
     void add(const std::unique_ptr<Polyline> &polyline, const Place &place) {
@@ -51,7 +53,7 @@ class Unfolding {
             {drawing_.entities.size(), polyline->segments.size(), polyline->closed});
         for (const Shape &segment : polyline->segments) {
             countStep();
-            add(Entity{segment, polyline->layer}, place);
+            add(Entity{segment, polyline->layer, polyline->source}, place);
         }
     }
 
@@ -74,8 +76,8 @@ class Unfolding {
                 const Affine cell = Affine::move(column * insert.columnStep, row * insert.rowStep);
                 countStep();
                 countLeftOut(insert.block);
-                addItems(block,
-                         {outer * cell * inner, place.layerOf(insert.layer), place.depth + 1});
+                addItems(block, {outer * cell * inner, place.layerOf(insert.layer),
+                                 place.sourceOf(insert.source), place.depth + 1});
             }
         }
     }

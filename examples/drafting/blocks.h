@@ -20,13 +20,13 @@ struct Insert {
     Affine inner;      ///< from the block to one cell of the grid
     int columns, rows;
     double columnStep, rowStep;
-    std::uint32_t layer;
+    std::uint32_t layer, source;
 };
 
 struct Polyline {
     std::vector<Shape> segments;
     bool closed;
-    std::uint32_t layer;
+    std::uint32_t layer, source;
 };
 
 struct Block {

@@ -52,9 +52,18 @@ struct Box {
 
 Box extentsOf(const Shape &shape);
 
+/// No place: of what was not read from a file.
+inline constexpr std::uint32_t kNowhere = 0xFFFFFFFF;
+
 struct Entity {
     Shape shape;
-    std::uint32_t layer; ///< index into Drawing::layers
+    std::uint32_t layer;             ///< index into Drawing::layers
+    std::uint32_t source = kNowhere; ///< index into DxfFile::sources
+};
+
+struct Layer {
+    std::string name;
+    int color = 7; ///< index of the usual palette, 1 to 255
 };
 
 /// Consecutive entities that were one polyline.
@@ -70,7 +79,7 @@ struct Drawing {
     std::string path;
     std::vector<Entity> entities; ///< told to people by their place, counted from 1
     std::vector<Outline> outlines;
-    std::vector<std::string> layers;
+    std::vector<Layer> layers;
     Tally leftOut;    ///< what the file holds and the drawing does not
     Tally simplified; ///< what the drawing holds in a simpler form than the file
 };

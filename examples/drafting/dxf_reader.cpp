@@ -48,6 +48,10 @@ class Collector : public DL_CreationAdapter {
         block_.clear();
     }
 
+    void addLayer(const DL_LayerData &data) override {
+        drawing_.layers[layerOf(data.name)].color = std::abs(attributes.getColor());
+    }
+
     void addLine(const DL_LineData &data) override {
         finishPolyline();
         const DTPOINT from = {data.x1, data.y1};
@@ -104,6 +108,7 @@ class Collector : public DL_CreationAdapter {
         inPolyline_ = true;
         closed_ = (data.flags & kPolylineClosed) != 0;
         polylineLayer_ = layerOf(attributes.getLayer());
+        polylineSource_ = source();
         polylinePlane_ = (data.flags & kPolylineInSpace) != 0 ? Affine{} : ownPlane();
         noteHeight("polyline", data.elevation != 0.0);
     }
@@ -118,9 +123,10 @@ class Collector : public DL_CreationAdapter {
         noteHeight("INSERT", data.ipz != 0.0);
         const Affine outer =
             ownPlane() * Affine::move(data.ipx, data.ipy) * Affine::turn(data.angle);
-        blocks_[block_].items.emplace_back(std::make_unique<Insert>(Insert{
-            blockKey(data.name), outer, Affine::scale(data.sx, data.sy), std::max(1, data.cols),
-            std::max(1, data.rows), data.colSp, data.rowSp, layerOf(attributes.getLayer())}));
+        blocks_[block_].items.emplace_back(std::make_unique<Insert>(
+            Insert{blockKey(data.name), outer, Affine::scale(data.sx, data.sy),
+                   std::max(1, data.cols), std::max(1, data.rows), data.colSp, data.rowSp,
+                   layerOf(attributes.getLayer()), source()}));
     }
 
   private:
@@ -139,7 +145,7 @@ class Collector : public DL_CreationAdapter {
 
     void add(const Shape &shape, const Affine &plane) {
         blocks_[block_].items.emplace_back(
-            Entity{placed(shape, plane), layerOf(attributes.getLayer())});
+            Entity{placed(shape, plane), layerOf(attributes.getLayer()), source()});
     }
 
     void finishPolyline() {
@@ -149,7 +155,7 @@ class Collector : public DL_CreationAdapter {
             shape = placed(shape, polylinePlane_);
         if (!segments.shapes.empty()) {
             blocks_[block_].items.emplace_back(std::make_unique<Polyline>(
-                Polyline{std::move(segments.shapes), closed_, polylineLayer_}));
+                Polyline{std::move(segments.shapes), closed_, polylineLayer_, polylineSource_}));
         }
         leaveOut("polyline segment of no length", segments.ofNoLength);
         if (segments.nearlyFlat > 0) drawing_.simplified[kNearlyFlat] += segments.nearlyFlat;
@@ -157,10 +163,15 @@ class Collector : public DL_CreationAdapter {
         vertices_.clear();
     }
 
+    /// The feed has put it where the handle was.
+    std::uint32_t source() const {
+        return block_.empty() ? static_cast<std::uint32_t>(attributes.getHandle()) : kNowhere;
+    }
+
     std::uint32_t layerOf(const std::string &name) {
         const auto next = static_cast<std::uint32_t>(drawing_.layers.size());
         const auto [found, isNew] = layerIndex_.try_emplace(name, next);
-        if (isNew) drawing_.layers.push_back(name);
+        if (isNew) drawing_.layers.push_back({name});
         return found->second;
     }
 
@@ -179,30 +190,32 @@ class Collector : public DL_CreationAdapter {
     bool inPolyline_ = false;
     bool closed_ = false;
     std::uint32_t polylineLayer_ = 0;
+    std::uint32_t polylineSource_ = kNowhere;
     Affine polylinePlane_;
     std::vector<Vertex> vertices_;
 };
 
-Drawing parse(const std::string &path, const std::string &text) {
-    Drawing drawing;
-    drawing.path = path;
+void parse(DxfFile &file) {
     TallyByBlock leftOut;
-    RecordFeed feed(text, leftOut);
+    RecordFeed feed(file.text, leftOut, file.sources);
     std::istream stream(&feed);
-    Collector collector(leftOut, drawing);
+    Collector collector(leftOut, file.drawing);
     DL_Dxf dxflib;
     dxflib.in(stream, &collector);
     feed.rethrow();
     if (!feed.sawEntities()) throw Failure("the file has no section of entities");
-    unfold(collector.blocks(), leftOut, drawing);
-    return drawing;
+    unfold(collector.blocks(), leftOut, file.drawing);
 }
 
 } // namespace
 
-Drawing readDxf(const std::string &path) {
+DxfFile readDxf(const std::string &path) {
     try {
-        return parse(path, loadText(path));
+        DxfFile file;
+        file.drawing.path = path;
+        file.text = loadText(path);
+        parse(file);
+        return file;
     } catch (const Failure &failure) {
         throw Failure(path + ": " + failure.what());
     }

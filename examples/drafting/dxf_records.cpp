@@ -20,6 +20,7 @@ namespace {
 constexpr double kLargestNumber = 1e12;
 constexpr int kLargestCode = 1071;
 constexpr int kSmallestCode = -5;
+constexpr int kComment = 999;
 
 std::string_view trimmed(std::string_view text) {
     constexpr std::string_view kBlanks = " \t\r\n\v\f";
@@ -112,12 +113,13 @@ void checkNumbers(const Record &record) {
         checkNumber(group, line += 2);
 }
 
-RecordScanner::RecordScanner(std::string_view text) : rest_(text) {
+RecordScanner::RecordScanner(std::string_view text) : text_(text), rest_(text) {
     constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
     if (startsWith(rest_, kUtf8Mark)) rest_.remove_prefix(kUtf8Mark.size());
-    pending_ = readGroup();
-    while (pending_.code == 999)
+    do {
+        pendingPlace_ = place();
         pending_ = readGroup();
+    } while (pending_.code == kComment);
     if (pending_.code != 0 || pending_.value != "SECTION")
         fail(line_, "a DXF starts with a section, which is missing here");
     pendingLine_ = line_ - 1;
@@ -146,17 +148,21 @@ bool RecordScanner::next(Record &record) {
     if (ended_) return false;
     record.kind = pending_.value;
     record.line = pendingLine_;
+    record.begin = pendingPlace_;
     record.groups.clear();
     ended_ = record.kind == "EOF";
     while (!ended_) {
+        const std::size_t at = place();
         const Group group = readGroup();
         if (group.code == 0) {
             pending_ = group;
             pendingLine_ = line_ - 1;
+            pendingPlace_ = at;
             break;
         }
         record.groups.push_back(group);
     }
+    record.end = ended_ ? text_.size() : pendingPlace_;
     return true;
 }
 

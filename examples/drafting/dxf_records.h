@@ -20,6 +20,8 @@ struct Record {
     std::string_view kind;     ///< LINE, SECTION, ...
     std::vector<Group> groups; ///< without the first
     std::size_t line = 0;      ///< where the first group stands in the text, counted from 1
+    std::size_t begin = 0;     ///< the same as a place in the text
+    std::size_t end = 0;       ///< where the next record begins
 
     /// The value of the first group with a code; empty when there is none.
     std::string_view value(int code) const;
@@ -43,10 +45,13 @@ class RecordScanner {
     bool readLine(std::string_view &out);
     Group readGroup();
 
-    std::string_view rest_;
+    std::size_t place() const { return text_.size() - rest_.size(); }
+
+    std::string_view text_, rest_;
     std::size_t line_ = 0; ///< of the line read last
     Group pending_{};
     std::size_t pendingLine_ = 0;
+    std::size_t pendingPlace_ = 0;
     bool ended_ = false;
 };
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <charconv>
 #include <cmath>
 
 namespace draft {
@@ -14,6 +15,7 @@ constexpr std::size_t kLongestValue = 1000;
 /// A normal this close to the z axis counts as along it.
 constexpr double kTiltSlack = 1e-6;
 
+constexpr int kHandle = 5;
 constexpr int kPolylineFlags = 70;
 constexpr int kMeshFlags = 16 | 64;  ///< a polyline that is a surface
 constexpr int kFrameVertexFlag = 16; ///< a vertex of the frame of a spline, not of its curve
@@ -45,6 +47,12 @@ void append(std::string &out, int code, std::string_view value) {
     out += '\n';
 }
 
+std::string hexadecimal(std::size_t number) {
+    std::array<char, 2 * sizeof(number)> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number, 16);
+    return {digits.data(), end.ptr};
+}
+
 } // namespace
 
 std::string blockKey(std::string_view name) {
@@ -55,8 +63,8 @@ std::string blockKey(std::string_view name) {
     return key;
 }
 
-RecordFeed::RecordFeed(std::string_view text, TallyByBlock &leftOut)
-    : scanner_(text), leftOut_(leftOut) {}
+RecordFeed::RecordFeed(std::string_view text, TallyByBlock &leftOut, std::vector<Source> &sources)
+    : scanner_(text), leftOut_(leftOut), sources_(sources) {}
 
 RecordFeed::int_type RecordFeed::underflow() {
     chunk_.clear();
@@ -82,6 +90,8 @@ void RecordFeed::take(const Record &record) {
         feed(record);
     } else if (record.kind == "SECTION" || record.kind == "ENDSEC") {
         takeSection(record);
+    } else if (section_ == Section::tables) {
+        if (record.kind == "LAYER") feed(record);
     } else if (section_ == Section::blocks && isBlock) {
         takeBlock(record);
     } else if (section_ != Section::other) {
@@ -91,7 +101,8 @@ void RecordFeed::take(const Record &record) {
 
 void RecordFeed::takeSection(const Record &record) {
     const std::string_view name = record.kind == "SECTION" ? record.value(2) : "";
-    section_ = name == "BLOCKS"     ? Section::blocks
+    section_ = name == "TABLES"     ? Section::tables
+               : name == "BLOCKS"   ? Section::blocks
                : name == "ENTITIES" ? Section::entities
                                     : Section::other;
     holder_ = section_ == Section::entities ? Holder::drawing : Holder::none;
@@ -123,15 +134,17 @@ void RecordFeed::takeEntity(const Record &record) {
         return;
     }
     if (isPolyline) polyline_ = Polyline::fed;
-    if (record.kind == "LWPOLYLINE") return feedLwPolyline(record);
-    feed(record);
+    feedEntity(record);
 }
 
 void RecordFeed::takeVertex(const Record &record) {
     checkNumbers(record);
     const bool ends = record.kind == "SEQEND";
     const bool isCurve = (record.integer(kPolylineFlags, 0) & kFrameVertexFlag) == 0;
-    if (polyline_ == Polyline::fed && isCurve) feed(record);
+    if (polyline_ == Polyline::fed) {
+        if (isCurve) feed(record);
+        if (holder_ == Holder::drawing) sources_.back().end = record.end;
+    }
     if (polyline_ == Polyline::none && !ends) leaveOut("VERTEX without a polyline");
     if (ends) polyline_ = Polyline::none;
 }
@@ -150,14 +163,30 @@ std::string RecordFeed::reasonToLeaveOut(const Record &record) const {
 
 void RecordFeed::feed(const Record &record) {
     append(chunk_, 0, record.kind);
+    feedGroups(record);
+}
+
+void RecordFeed::feedGroups(const Record &record) {
     for (const Group &group : record.groups)
         if (isFed(group.code)) append(chunk_, group.code, group.value);
 }
 
-void RecordFeed::feedLwPolyline(const Record &record) {
+void RecordFeed::feedEntity(const Record &record) {
+    const bool isLight = record.kind == "LWPOLYLINE";
+    append(chunk_, 0, record.kind);
+    if (holder_ == Holder::drawing) {
+        const auto kind = isLight || record.kind == "POLYLINE" ? Source::Kind::polyline
+                          : record.kind == "INSERT"            ? Source::Kind::insert
+                                                               : Source::Kind::entity;
+        append(chunk_, kHandle, hexadecimal(sources_.size()));
+        sources_.push_back({kind, record.begin, record.end});
+    }
+    isLight ? feedVertices(record) : feedGroups(record);
+}
+
+void RecordFeed::feedVertices(const Record &record) {
     const auto isVertex = [](const Group &group) { return group.code == 10; };
     const auto vertices = std::count_if(record.groups.begin(), record.groups.end(), isVertex);
-    append(chunk_, 0, record.kind);
     append(chunk_, 90, std::to_string(vertices));
     bool inVertex = false;
     for (const Group &group : record.groups) {

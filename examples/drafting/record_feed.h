@@ -6,6 +6,7 @@
 #include <streambuf>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "drawing.h"
 #include "dxf_records.h"
@@ -17,12 +18,25 @@ using TallyByBlock = std::map<std::string, Tally>;
 
 std::string blockKey(std::string_view name);
 
+/// What an entity was read from.
+struct Source {
+    enum class Kind {
+        entity,   ///< one record of this entity alone
+        polyline, ///< records of several entities
+        insert    ///< of all entities of a block
+    };
+
+    Kind kind;
+    std::size_t begin, end; ///< places in the text
+};
+
 /// Passes on the entities and blocks that the program understands, counts the others and
 /// repairs what dxflib takes on trust: the number of vertices, the order of bulges, the length
-/// of lines. A failure ends the stream; whoever has read it asks for it by rethrow().
+/// of lines. An entity of the drawing itself carries the place of its source as its handle. A
+/// failure ends the stream; whoever has read it asks for it by rethrow().
 class RecordFeed : public std::streambuf {
   public:
-    RecordFeed(std::string_view text, TallyByBlock &leftOut);
+    RecordFeed(std::string_view text, TallyByBlock &leftOut, std::vector<Source> &sources);
 
     bool sawEntities() const { return sawEntities_; }
     void rethrow() const;
@@ -39,15 +53,18 @@ class RecordFeed : public std::streambuf {
     /// Why an entity is not understood, as its name in the tally; empty when it is.
     std::string reasonToLeaveOut(const Record &record) const;
     void feed(const Record &record);
-    void feedLwPolyline(const Record &record);
+    void feedGroups(const Record &record);
+    void feedEntity(const Record &record);
+    void feedVertices(const Record &record);
     void leaveOut(const std::string &kind) { ++leftOut_[block_][kind]; }
 
-    enum class Section { other, blocks, entities };
+    enum class Section { other, tables, blocks, entities };
     enum class Holder { none, block, drawing };
     enum class Polyline { none, fed, leftOut };
 
     RecordScanner scanner_;
     TallyByBlock &leftOut_;
+    std::vector<Source> &sources_;
     Section section_ = Section::other;
     Holder holder_ = Holder::none; ///< of the entities that follow
     Polyline polyline_ = Polyline::none;

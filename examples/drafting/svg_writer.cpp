@@ -114,9 +114,10 @@ std::string entities(const Drawing &drawing, const Page &page) {
         const Entity &entity = drawing.entities[i];
         const std::string path = std::visit(outline, entity.shape);
         std::string &group = groups[static_cast<std::size_t>(groupOf(kindOf(entity.shape)))];
-        group += named ? element(path, "",
-                                 label(drawing, i) + " on layer " + drawing.layers[entity.layer])
-                       : path;
+        group += named
+                     ? element(path, "",
+                               label(drawing, i) + " on layer " + drawing.layers[entity.layer].name)
+                     : path;
     }
     std::string text;
     for (std::size_t i = 0; i < kGroupCount; ++i) {

@@ -4,7 +4,6 @@
 #include <iostream>
 #include <numeric>
 
-#include "dxf_reader.h"
 #include "failure.h"
 #include "text.h"
 
@@ -74,11 +73,13 @@ std::vector<std::size_t> chosenOrAll(const Drawing &drawing,
     return chosen;
 }
 
-Drawing openDrawing(const std::string &path) {
-    Drawing drawing = readDxf(path);
-    tell("left out", drawing.leftOut);
-    tell("simplified", drawing.simplified);
-    return drawing;
+Drawing openDrawing(const std::string &path) { return openFile(path).drawing; }
+
+DxfFile openFile(const std::string &path) {
+    DxfFile file = readDxf(path);
+    tell("left out", file.drawing.leftOut);
+    tell("simplified", file.drawing.simplified);
+    return file;
 }
 
 Json describe(const Drawing &drawing) {
@@ -94,7 +95,7 @@ Json describe(const Drawing &drawing, std::size_t index) {
     const Entity &entity = drawing.entities[index];
     return {{"number", index + 1},
             {"kind", nameOf(kindOf(entity.shape))},
-            {"layer", drawing.layers[entity.layer]}};
+            {"layer", drawing.layers[entity.layer].name}};
 }
 
 void print(const Json &json) { std::cout << textOf(json, kIndent) << '\n'; }

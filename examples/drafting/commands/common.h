@@ -9,6 +9,7 @@
 
 #include "crossings.h"
 #include "drawing.h"
+#include "dxf_reader.h"
 #include "svg_writer.h"
 
 namespace draft {
@@ -39,6 +40,8 @@ std::vector<std::size_t> chosenOrAll(const Drawing &drawing,
 
 /// Reads a drawing and tells on the error stream what it does not hold of its file.
 Drawing openDrawing(const std::string &path);
+/// The same, with the text that it was read from.
+DxfFile openFile(const std::string &path);
 
 /// What programs are told of every drawing: its file, its entities, what was left out.
 Json describe(const Drawing &drawing);
