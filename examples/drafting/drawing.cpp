@@ -113,6 +113,11 @@ void Box::join(const Box &other) {
     maxY = std::max(maxY, other.maxY);
 }
 
+bool areNear(const Box &a, const Box &b, double distance) {
+    return a.minX <= b.maxX + distance && b.minX <= a.maxX + distance &&
+           a.minY <= b.maxY + distance && b.minY <= a.maxY + distance;
+}
+
 Box extentsOf(const Shape &shape) { return std::visit(ExtentsOf{}, shape); }
 
 Box extentsOf(const Drawing &drawing) {

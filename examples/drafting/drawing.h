@@ -50,6 +50,9 @@ struct Box {
     void join(const Box &other);
 };
 
+/// Whether two boxes come within a distance of each other, in x and in y.
+bool areNear(const Box &a, const Box &b, double distance);
+
 Box extentsOf(const Shape &shape);
 
 /// No place: of what was not read from a file.

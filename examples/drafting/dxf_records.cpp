@@ -137,16 +137,19 @@ bool RecordScanner::readLine(std::string_view &out) {
 Group RecordScanner::readGroup() {
     std::string_view code;
     Group group{};
+    const std::size_t from = place();
     if (!readLine(code)) fail(line_, "the file breaks off; its end (EOF) is missing");
     if (!parse(code, group.code) || group.code < kSmallestCode || group.code > kLargestCode)
         fail(line_, quoted(code) + " is no DXF group code; the file is no DXF or is damaged");
     if (!readLine(group.value)) fail(line_, "the file breaks off; its end (EOF) is missing");
+    group.lines = text_.substr(from, place() - from);
     return group;
 }
 
 bool RecordScanner::next(Record &record) {
     if (ended_) return false;
     record.kind = pending_.value;
+    record.head = pending_;
     record.line = pendingLine_;
     record.begin = pendingPlace_;
     record.groups.clear();

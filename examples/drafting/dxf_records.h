@@ -13,11 +13,13 @@ namespace draft {
 struct Group {
     int code;
     std::string_view value; ///< without surrounding blanks
+    std::string_view lines; ///< both lines as they stand, with their ends
 };
 
 /// What stands from one group with code 0 up to the next.
 struct Record {
     std::string_view kind;     ///< LINE, SECTION, ...
+    Group head{};              ///< the first group
     std::vector<Group> groups; ///< without the first
     std::size_t line = 0;      ///< where the first group stands in the text, counted from 1
     std::size_t begin = 0;     ///< the same as a place in the text

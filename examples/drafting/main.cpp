@@ -35,6 +35,7 @@ int run(int argc, char **argv) {
     draft::addTangents(app);
     draft::addMeasure(app);
     draft::addDivide(app);
+    draft::addTrim(app);
     draft::addPlot(app);
     try {
         app.parse(argc, argv);

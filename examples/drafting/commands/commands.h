@@ -10,5 +10,6 @@ void addIntersect(CLI::App &app);
 void addMeasure(CLI::App &app);
 void addPlot(CLI::App &app);
 void addTangents(CLI::App &app);
+void addTrim(CLI::App &app);
 
 } // namespace draft

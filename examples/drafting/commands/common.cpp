@@ -43,16 +43,14 @@ void addPictureOption(CLI::App &command, CommonOptions &options) {
 
 void addPointOption(CLI::App &command, const std::string &name, std::vector<double> &point,
                     const std::string &what) {
-    command.add_option(name, point, what)
-        ->delimiter(',')
-        ->expected(2)
-        ->check(CLI::Range(-1e12, 1e12));
+    command.add_option(name, point, what)->delimiter(',')->allow_extra_args(false)->expected(2);
 }
 
 void addEntityOption(CLI::App &command, std::vector<std::size_t> &numbers,
                      const std::string &what) {
-    command.add_option("-e,--entity", numbers, what + ", by their numbers (3 7, or 3,7)")
-        ->delimiter(',');
+    command.add_option("-e,--entity", numbers, what + ", by their numbers: 3,7")
+        ->delimiter(',')
+        ->allow_extra_args(false);
 }
 
 std::vector<std::size_t> chosenOrAll(const Drawing &drawing,

@@ -1,0 +1,129 @@
+// Pieces taken out of each kind of entity, and what stays of the file.
+
+#include <algorithm>
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+#include "program.h"
+
+namespace {
+
+using nlohmann::json;
+using program::contentOf;
+using program::dxf;
+using program::Scratch;
+
+struct Case {
+    const char *about;
+    std::string entities; // the first is picked
+    const char *picks;
+    std::vector<double> lengths; // of what is left of it, in any order
+};
+
+const char *const kUprightAt3 = "|0 LINE|10 3|20 -9|11 3|21 9";
+const char *const kUprightAt7 = "|0 LINE|10 7|20 -9|11 7|21 9";
+
+TEST(Trim, TakesThePickedPiece) {
+    const double pi = 3.141592653589793;
+    const std::string line = "0 LINE|10 0|20 0|11 10|21 0";
+    const std::string circle = "0 CIRCLE|10 0|20 0|40 5";
+    const std::string axes = "|0 LINE|10 0|20 -9|11 0|21 9|0 LINE|10 -9|20 0|11 9|21 0";
+    const Case cases[] = {
+        {"start of a line", line + kUprightAt3 + kUprightAt7, "--pick 1,1", {7}},
+        {"middle of a line", line + kUprightAt3 + kUprightAt7, "--pick 5,0", {3, 3}},
+        {"end of a line", line + kUprightAt3 + kUprightAt7, "--pick 9,-1", {7}},
+        {"two pieces of a line", line + kUprightAt3 + kUprightAt7, "--pick 1,0 --pick 9,0", {4}},
+        {"a circle, across 0 degrees",
+         circle + kUprightAt3,
+         "--pick 5,0",
+         {5 * (2 * pi - 2 * std::acos(0.6))}},
+        {"a circle, the larger piece", circle + kUprightAt3, "--pick -5,0", {10 * std::acos(0.6)}},
+        {"middle of an arc",
+         "0 ARC|10 0|20 0|40 5|50 300|51 250" + axes,
+         "--pick -4,4",
+         {5 * pi * 150 / 180, 5 * pi * 70 / 180}},
+        {"an arc seen from behind",
+         "0 ARC|10 0|20 0|40 5|50 10|51 170|210 0|220 0|230 -1" + axes,
+         "--pick -4,4",
+         {5 * pi * 80 / 180}},
+        {"an ellipse",
+         "0 ELLIPSE|10 0|20 0|11 4|21 0|40 0.5|41 0|42 6.283185307179586" + axes,
+         "--pick 3,1",
+         {19.376896441095 * 0.75}},
+        {"an elliptic arc seen from behind",
+         "0 ELLIPSE|10 0|20 0|11 4|21 0|40 0.5|41 0|42 3.141592653589793|210 0|220 0|230 -1" + axes,
+         "--pick 3,-1",
+         {19.376896441095 * 0.25}},
+    };
+    const Scratch scratch("pieces");
+    for (const Case &c : cases) {
+        const std::string file = scratch.write("a.dxf", dxf(c.entities));
+        const std::string out = scratch.file("out.dxf");
+        const auto outcome = scratch.draft("trim " + file + " " + c.picks + " -o " + out);
+        ASSERT_EQ(outcome.exitCode, 0) << c.about << outcome.err;
+        const json before = scratch.draft("measure --json " + file).json()["measures"];
+        const json after = scratch.draft("measure --json " + out).json()["measures"];
+        ASSERT_EQ(after.size() - before.size() + 1, c.lengths.size()) << c.about;
+        double sum = 0.0;
+        for (std::size_t i = 0; i < c.lengths.size(); ++i) {
+            const double length = after[i]["length"];
+            const auto isWanted = [&](double want) { return std::fabs(length - want) < 1e-6; };
+            EXPECT_TRUE(std::any_of(c.lengths.begin(), c.lengths.end(), isWanted))
+                << c.about << ": " << length;
+            sum += length;
+        }
+        double wanted = 0.0;
+        for (const double length : c.lengths)
+            wanted += length;
+        EXPECT_NEAR(sum, wanted, 1e-6) << c.about;
+    }
+}
+
+TEST(Trim, PreservesWhatItDoesNotTouch) {
+    const Scratch scratch("preserves");
+    std::string text = "  0\r\nSECTION\r\n  2\r\nHEADER\r\n  9\r\n$HANDSEED\r\n  5\r\n2B\r\n  0\r\n"
+                       "ENDSEC\r\n  0\r\nSECTION\r\n  2\r\nENTITIES\r\n";
+    const std::string head = text;
+    const std::string line = "  0\r\nLINE\r\n  5\r\n2A\r\n  8\r\nwalls\r\n 62\r\n     3\r\n"
+                             " 10\r\n0\r\n 20\r\n0\r\n 11\r\n10\r\n 21\r\n0\r\n1001\r\nHOST\r\n"
+                             "1000\r\nmine\r\n";
+    const std::string rest = "  0\r\nHELIX\r\n  8\r\n\xE4\r\n  0\r\nCIRCLE\r\n 10\r\n5\r\n 20\r\n"
+                             "0\r\n 40\r\n2\r\n  0\r\nENDSEC\r\n  0\r\nEOF\r\n";
+    const std::string file = scratch.write("a.dxf", text + line + rest);
+    const std::string out = scratch.file("b.dxf");
+    ASSERT_EQ(scratch.draft("trim " + file + " --pick 5,0 -o " + out).exitCode, 0);
+
+    const auto changed = [](std::string record, const std::string &from, const std::string &to) {
+        return record.replace(record.find(from), from.size(), to);
+    };
+    const std::string first = changed(line, " 11\r\n10\r\n", " 11\r\n3.0\r\n");
+    const std::string second =
+        changed(changed(line, "\r\n2A\r\n", "\r\n2B\r\n"), " 10\r\n0\r\n", " 10\r\n7.0\r\n");
+    EXPECT_EQ(contentOf(out), changed(head, "\r\n2B\r\n", "\r\n2C\r\n") + first + second + rest);
+}
+
+TEST(Trim, RefusesWhereThereIsNothingToTake) {
+    const Scratch scratch("refuses");
+    const std::string out = scratch.file("out.dxf");
+    const auto refusal = [&](const std::string &entities, const std::string &blocks = "") {
+        const std::string file = scratch.write("a.dxf", dxf(entities, blocks));
+        const auto outcome = scratch.draft("trim " + file + " --pick 5,0 -o " + out);
+        EXPECT_EQ(outcome.exitCode, 1);
+        EXPECT_FALSE(program::fs::exists(out));
+        return outcome.err;
+    };
+    EXPECT_NE(refusal("0 LINE|10 0|20 0|11 10|21 0").find("no piece"), std::string::npos);
+    EXPECT_NE(refusal("0 CIRCLE|10 0|20 0|40 5|0 LINE|10 0|20 0|11 9|21 0").find("no piece"),
+              std::string::npos);
+    EXPECT_NE(
+        refusal(std::string("0 LWPOLYLINE|10 0|20 0|10 10|20 0") + kUprightAt3).find("polyline"),
+        std::string::npos);
+    EXPECT_NE(refusal(std::string("0 INSERT|2 A|10 0|20 0") + kUprightAt3,
+                      "0 BLOCK|2 A|10 0|20 0|0 LINE|10 0|20 0|11 10|21 0|0 ENDBLK")
+                  .find("inserted block"),
+              std::string::npos);
+    EXPECT_NE(refusal("0 POINT|10 0|20 0").find("nothing to trim"), std::string::npos);
+}
+
+} // namespace
