@@ -142,6 +142,12 @@ TEST(Parallel, movesToTheRightForPositiveSides) {
     const ToleranceGuard none(0.0);
     EXPECT_EQ(ca_palds(&kA, &kA, 1, 1, &out1, &out2), 0);
     EXPECT_EQ(out1, fromA({0, -1})) << "no direction counts as east";
+    for (const double size : {1.5e308, 5e-324}) {
+        const DTPOINT origin = {0, 0}, far = {size, size};
+        EXPECT_EQ(ca_palds(&origin, &far, 1, 1, &out1, &out2), 0);
+        EXPECT_TRUE(near(out1, {std::sqrt(0.5), -std::sqrt(0.5)}, 4 * kEpsilon))
+            << "a length that is no normal number has a direction all the same";
+    }
 }
 
 TEST(DistanceAlong, stopsAtTheEnd) {

@@ -1,8 +1,22 @@
 // The parallel of a segment at a distance.
 
+#include "base/angle.h"
 #include "line/segment.h"
 
+namespace {
+
 using namespace planegeo;
+
+/// The angle knows a direction also where its length does not: 0 degrees for (0, 0), which only
+/// a tolerance of zero lets through, and lengths that overflow or are denormal.
+Vec2 unit(Vec2 direction) {
+    const double length = hypotLength(direction);
+    if (std::isnormal(length)) return direction / length;
+    const Rotation turn = Rotation::ofDegrees(directionDeg(direction));
+    return {turn.c, turn.s};
+}
+
+} // namespace
 
 extern "C" {
 
@@ -11,10 +25,7 @@ int32_t ca_palds(const DTPOINT *a1, const DTPOINT *a2, double d, int16_t side, D
     const Segment line = load(a1, a2);
     const Vec2 direction = line.direction();
     if (isWithinBox(direction, distanceTolerance())) return 1;
-    // A direction of exactly (0, 0), which only a tolerance of zero lets through, means 0 degrees.
-    const double length = hypotLength(direction);
-    const Vec2 along = length == 0.0 ? Vec2{1.0, 0.0} : direction / length;
-    const Vec2 offset = -leftNormal(along) * (d * side);
+    const Vec2 offset = -leftNormal(unit(direction)) * (d * side);
     store(line.start + offset, out1);
     store(line.end + offset, out2);
     return 0;
