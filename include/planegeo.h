@@ -933,7 +933,7 @@ PLANEGEO_API DTCOMPLEX PLANEGEO_CALL ama_c_sqrt(DTCOMPLEX z);
  * value the step is zero, and the stationary point counts as the root.
  *
  * @param[in]  c n + 1 coefficients
- * @param[in]  n degree, 2 to 1000
+ * @param[in]  n degree, 2 to 200
  * @param[out] x the root, the last iterate when the result is -2; untouched when -1
  * @return 0 found; -1 also for a degree out of range; -2 no step was small enough
  */
@@ -948,7 +948,7 @@ PLANEGEO_API int32_t PLANEGEO_CALL amaNewtonRaphson(const double *c, int32_t n, 
  * degree 19. Take amaDKA() there.
  *
  * @param[in]  c   n + 1 coefficients
- * @param[in]  n   degree, 1 to 1000
+ * @param[in]  n   degree, 1 to 200
  * @param[out] out n pairs; degree 1: one double. Above degree 4 the last factor comes
  *                 first, the Newton root of an odd degree last; a discriminant down
  *                 to -0.0001 counts as real; the second root of a complex pair is
@@ -964,19 +964,19 @@ PLANEGEO_API int32_t PLANEGEO_CALL amaBairstaw(const double *c, int32_t n, doubl
  * Finds all roots at once (Durand-Kerner, from Aberth's circle about the origin).
  *
  * Sweeps end when all values met in one are below eps, or with the budget. Roots that
- * repeat themselves bit by bit are carried to its end at once; without that, 10^7
- * sweeps, or 10^9 / n^2 if fewer, are as a budget used up. A NaN does not count as a
- * large value: where all are NaN, as with c[2] to c[n] all zero, so are the roots,
- * and the result is 0.
+ * repeat themselves bit by bit are carried to its end at once; without that,
+ * 10^7 / (n (n + 16)) sweeps, but at least 1000, are as a budget used up. A NaN does
+ * not count as a large value: where all are NaN, as with c[2] to c[n] all zero, so
+ * are the roots, and the result is 0.
  *
  * @param[in,out] c       n + 1 coefficients; c[1] to c[n] are divided by c[0]
- * @param[in]     n       degree, up to 1000; below 1 nothing is written, and the
+ * @param[in]     n       degree, up to 200; below 1 nothing is written, and the
  *                        result is 0 if eps > 0 and maxiter >= 0, else -1
  * @param[in]     eps     bound of |value| after that division
  * @param[in]     maxiter budget of floor(maxiter) + 1 sweeps; none if negative or NaN
  * @param[out]    out     n pairs; imaginary parts below the root of eps become 0
  * @return 0 converged, or else at least one imaginary part became 0; -1 neither, or
- *         a degree above 1000 (c and out are untouched then)
+ *         a degree above 200 (c and out are untouched then)
  */
 PLANEGEO_API int32_t PLANEGEO_CALL amaDKA(double *c, int32_t n, double eps, double maxiter,
                                           double *out);

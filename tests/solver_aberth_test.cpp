@@ -81,7 +81,7 @@ TEST(DKA, answersForDegreesAtTheEnds) {
     EXPECT_EQ(dka({5}, 0, 500).status, -1);
     EXPECT_EQ(dka({0, 3}, 1e-12, 500).c, (std::vector<double>{0, 3}));
     EXPECT_EQ(dka({0, 3}, 1e-12, 500).status, -1);
-    for (const int32_t n : {1001, std::numeric_limits<int32_t>::max()}) {
+    for (const int32_t n : {201, std::numeric_limits<int32_t>::max()}) {
         double c = 2.0, out = kUntouched;
         EXPECT_EQ(amaDKA(&c, n, 1e-12, 500, &out), -1) << n;
         EXPECT_EQ(out, kUntouched);
@@ -108,6 +108,28 @@ TEST(DKA, carriesRootsThatRepeatToTheEndOfAnyBudget) {
     EXPECT_EQ(dka(c, 0.0, 1e15).out, even);
     EXPECT_EQ(dka(c, 0.0, 1e15 + 1).out, odd);
     EXPECT_EQ(dka(c, 0.0, 1e300).out, dka(c, 0.0, kInfinity).out);
+}
+
+// A root of multiplicity 19 never settles: its sweeps wander among roundings.
+TEST(DKA, endsAnUnsettledRunAtItsLimitOfSweeps) {
+    const auto c = polynomialOf(std::vector<Root>(19, 0.05));
+    const double limit = 10'000'000 / (19 * (19 + 16)); // sweeps, of which a budget makes one more
+    const auto atLimit = dka(c, 0.0, limit - 1).out;
+    ASSERT_NE(dka(c, 0.0, limit - 2).out, atLimit);
+    EXPECT_EQ(dka(c, 0.0, limit).out, atLimit);
+    EXPECT_EQ(dka(c, 0.0, kInfinity).out, atLimit);
+}
+
+// x^120 - 1 needs some 740 sweeps; 10^7 products are 612.
+TEST(DKA, leavesTheHighestDegreesTimeToConverge) {
+    std::vector<double> c(121, 0.0);
+    c.front() = 1;
+    c.back() = -1;
+    const Answer got = dka(c, 1e-12, kInfinity);
+    EXPECT_EQ(got.status, 0);
+    for (std::size_t k = 0; k < 120; ++k) {
+        EXPECT_NEAR(std::hypot(got.out[2 * k], got.out[2 * k + 1]), 1.0, 1e-12) << k;
+    }
 }
 
 TEST(DKA, endsForEveryBudget) {

@@ -68,7 +68,7 @@ TEST(Bairstow, refusesDegreesAndLeadsWithoutTouchingTheOutput) {
         EXPECT_EQ(bairstow(c).out, std::vector<double>(2 * degree, kUntouched)) << degree;
     }
     const double c[] = {1.0, 1.0};
-    for (const int32_t n : {0, -1, -5, -6, 1001, std::numeric_limits<int32_t>::max(),
+    for (const int32_t n : {0, -1, -5, -6, 201, std::numeric_limits<int32_t>::max(),
                             std::numeric_limits<int32_t>::min()}) {
         double out = kUntouched;
         EXPECT_EQ(amaBairstaw(c, n, &out), -1) << n;

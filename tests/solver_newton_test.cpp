@@ -61,7 +61,7 @@ TEST(Newton, leavesTheLastIterateWhereItFails) {
 
 TEST(Newton, refusesDegreesAndLeadsWithoutTouchingTheOutput) {
     const double c[] = {0.0, 1.0, 2.0};
-    for (const int32_t n : {2, 1, 0, -1, 1001, std::numeric_limits<int32_t>::max(),
+    for (const int32_t n : {2, 1, 0, -1, 201, std::numeric_limits<int32_t>::max(),
                             std::numeric_limits<int32_t>::min()}) {
         double x = kUntouched;
         EXPECT_EQ(amaNewtonRaphson(n == 2 ? c : c + 1, n, &x), -1) << n;

@@ -63,7 +63,8 @@ template <std::size_t Degree> std::int32_t store(const Roots<Degree> &roots, dou
 }
 
 /// The iterative solvers refuse a higher degree: work and working storage stay bounded without
-/// heap memory, and doubles tell nothing about the roots long before.
-inline constexpr int kMaxDegree = 1000;
+/// heap memory. Doubles tell little about the roots long before; from degree 144 on the powers of
+/// the starting circle of amaDKA overflow unless the coefficients shrink.
+inline constexpr int kMaxDegree = 200;
 
 } // namespace planegeo
