@@ -6,10 +6,24 @@
 
 namespace planegeo {
 
+/// What rounding took off the product p of a and b, exactly, by splitting both into halves whose
+/// products are exact. std::fma(a, b, -p) would say it shorter, but MinGW's rounds twice. NaN where
+/// a or b exceeds 2^996.
+constexpr double productError(double a, double b, double p) {
+    constexpr double kSplitter = 134217729.0; // 2^27 + 1
+    const double aSplit = kSplitter * a;
+    const double bSplit = kSplitter * b;
+    const double aHigh = aSplit - (aSplit - a);
+    const double bHigh = bSplit - (bSplit - b);
+    const double aLow = a - aHigh;
+    const double bLow = b - bHigh;
+    return ((aHigh * bHigh - p) + aHigh * bLow + aLow * bHigh) + aLow * bLow;
+}
+
 /// A number of some 106 bits as the unevaluated sum of two doubles, |lo| <= ulp(hi) / 2.
 ///
 /// `sum`, `difference` and `product` of doubles are exact; what is built from them loses a few
-/// units of 2^-105. Overflow gives NaN, in products from 2^1023 on.
+/// units of 2^-105. Overflow gives NaN: factors from 2^996 on, products from 2^1023 on.
 struct Doubled {
     double hi;
     double lo;
@@ -23,9 +37,9 @@ struct Doubled {
         return {s, (a - (s - part)) + (b - part)};
     }
     static constexpr Doubled difference(double a, double b) { return sum(a, -b); }
-    static Doubled product(double a, double b) {
+    static constexpr Doubled product(double a, double b) {
         const double p = a * b;
-        return {p, std::fma(a, b, -p)};
+        return {p, productError(a, b, p)};
     }
     /// a + b where |a| >= |b|.
     static constexpr Doubled ordered(double a, double b) {
@@ -72,9 +86,9 @@ inline Doubled squareRoot(Doubled v) {
 
 /// cross(v, w) to an ulp or two, however much of the two products cancels.
 inline double accurateCross(Vec2 v, Vec2 w) {
+    const double left = v.x * w.y;
     const double right = v.y * w.x;
-    const double lost = std::fma(v.y, w.x, -right);
-    return std::fma(v.x, w.y, -right) - lost;
+    return (left - right) + (productError(v.x, w.y, left) - productError(v.y, w.x, right));
 }
 
 } // namespace planegeo
