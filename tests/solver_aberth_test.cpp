@@ -113,7 +113,8 @@ TEST(DKA, carriesRootsThatRepeatToTheEndOfAnyBudget) {
 // A root of multiplicity 19 never settles: its sweeps wander among roundings.
 TEST(DKA, endsAnUnsettledRunAtItsLimitOfSweeps) {
     const auto c = polynomialOf(std::vector<Root>(19, 0.05));
-    const double limit = 10'000'000 / (19 * (19 + 16)); // sweeps, of which a budget makes one more
+    constexpr int kLimit = 10'000'000 / (19 * (19 + 16));
+    const double limit = kLimit; // sweeps, of which a budget makes one more
     const auto atLimit = dka(c, 0.0, limit - 1).out;
     ASSERT_NE(dka(c, 0.0, limit - 2).out, atLimit);
     EXPECT_EQ(dka(c, 0.0, limit).out, atLimit);
