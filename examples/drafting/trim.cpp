@@ -14,9 +14,8 @@ namespace {
 
 constexpr double kFullTurnDeg = 360.0;
 
-// Those of curves stand beside those of lines below.
+// That of curves stands beside that of lines below.
 using draft::isClosed;
-using draft::pointAt;
 
 double startPlace(const DTLINE & /*line*/) { return 0.0; }
 double endPlace(const DTLINE & /*line*/) { return 1.0; }
@@ -84,9 +83,9 @@ std::vector<double> placesOf(const Curve &curve, const std::vector<DTPOINT> &cut
             std::any_of(ends.points.begin(), ends.points.begin() + ends.count, isHere);
         if (!isEnd && std::none_of(kept.begin(), kept.end(), isHere)) kept.push_back(cut);
     }
-    std::vector<double> places;
-    for (const DTPOINT cut : kept)
-        places.push_back(placeOf(curve, cut));
+    std::vector<double> places(kept.size());
+    std::transform(kept.begin(), kept.end(), places.begin(),
+                   [&](DTPOINT cut) { return placeOf(curve, cut); });
     std::sort(places.begin(), places.end());
     return places;
 }

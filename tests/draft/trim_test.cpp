@@ -30,37 +30,45 @@ TEST(Trim, TakesThePickedPiece) {
     const std::string circle = "0 CIRCLE|10 0|20 0|40 5";
     const std::string axes = "|0 LINE|10 0|20 -9|11 0|21 9|0 LINE|10 -9|20 0|11 9|21 0";
     const Case cases[] = {
-        {"start of a line", line + kUprightAt3 + kUprightAt7, "--pick 1,1", {7}},
-        {"middle of a line", line + kUprightAt3 + kUprightAt7, "--pick 5,0", {3, 3}},
-        {"end of a line", line + kUprightAt3 + kUprightAt7, "--pick 9,-1", {7}},
-        {"two pieces of a line", line + kUprightAt3 + kUprightAt7, "--pick 1,0 --pick 9,0", {4}},
+        {"start of a line", line + kUprightAt3 + kUprightAt7, " --pick 1,1 -o ", {7}},
+        {"middle of a line", line + kUprightAt3 + kUprightAt7, " --pick 5,0 -o ", {3, 3}},
+        {"end of a line", line + kUprightAt3 + kUprightAt7, " --pick 9,-1 -o ", {7}},
+        {"two pieces of a line",
+         line + kUprightAt3 + kUprightAt7,
+         " --pick 1,0 --pick 9,0 -o ",
+         {4}},
         {"a circle, across 0 degrees",
          circle + kUprightAt3,
-         "--pick 5,0",
+         " --pick 5,0 -o ",
          {5 * (2 * pi - 2 * std::acos(0.6))}},
-        {"a circle, the larger piece", circle + kUprightAt3, "--pick -5,0", {10 * std::acos(0.6)}},
+        {"a circle, the larger piece",
+         circle + kUprightAt3,
+         " --pick -5,0 -o ",
+         {10 * std::acos(0.6)}},
         {"middle of an arc",
          "0 ARC|10 0|20 0|40 5|50 300|51 250" + axes,
-         "--pick -4,4",
+         " --pick -4,4 -o ",
          {5 * pi * 150 / 180, 5 * pi * 70 / 180}},
         {"an arc seen from behind",
          "0 ARC|10 0|20 0|40 5|50 10|51 170|210 0|220 0|230 -1" + axes,
-         "--pick -4,4",
+         " --pick -4,4 -o ",
          {5 * pi * 80 / 180}},
         {"an ellipse",
          "0 ELLIPSE|10 0|20 0|11 4|21 0|40 0.5|41 0|42 6.283185307179586" + axes,
-         "--pick 3,1",
+         " --pick 3,1 -o ",
          {19.376896441095 * 0.75}},
         {"an elliptic arc seen from behind",
          "0 ELLIPSE|10 0|20 0|11 4|21 0|40 0.5|41 0|42 3.141592653589793|210 0|220 0|230 -1" + axes,
-         "--pick 3,-1",
+         " --pick 3,-1 -o ",
          {19.376896441095 * 0.25}},
     };
     const Scratch scratch("pieces");
     for (const Case &c : cases) {
         const std::string file = scratch.write("a.dxf", dxf(c.entities));
         const std::string out = scratch.file("out.dxf");
-        const auto outcome = scratch.draft("trim " + file + " " + c.picks + " -o " + out);
+        std::string command = "trim " + file;
+        command.append(c.picks).append(out);
+        const auto outcome = scratch.draft(command);
         ASSERT_EQ(outcome.exitCode, 0) << c.about << outcome.err;
         const json before = scratch.draft("measure --json " + file).json()["measures"];
         const json after = scratch.draft("measure --json " + out).json()["measures"];
@@ -82,15 +90,15 @@ TEST(Trim, TakesThePickedPiece) {
 
 TEST(Trim, PreservesWhatItDoesNotTouch) {
     const Scratch scratch("preserves");
-    std::string text = "  0\r\nSECTION\r\n  2\r\nHEADER\r\n  9\r\n$HANDSEED\r\n  5\r\n2B\r\n  0\r\n"
-                       "ENDSEC\r\n  0\r\nSECTION\r\n  2\r\nENTITIES\r\n";
-    const std::string head = text;
+    const std::string head =
+        "  0\r\nSECTION\r\n  2\r\nHEADER\r\n  9\r\n$HANDSEED\r\n  5\r\n2B\r\n  0\r\n"
+        "ENDSEC\r\n  0\r\nSECTION\r\n  2\r\nENTITIES\r\n";
     const std::string line = "  0\r\nLINE\r\n  5\r\n2A\r\n  8\r\nwalls\r\n 62\r\n     3\r\n"
                              " 10\r\n0\r\n 20\r\n0\r\n 11\r\n10\r\n 21\r\n0\r\n1001\r\nHOST\r\n"
                              "1000\r\nmine\r\n";
     const std::string rest = "  0\r\nHELIX\r\n  8\r\n\xE4\r\n  0\r\nCIRCLE\r\n 10\r\n5\r\n 20\r\n"
                              "0\r\n 40\r\n2\r\n  0\r\nENDSEC\r\n  0\r\nEOF\r\n";
-    const std::string file = scratch.write("a.dxf", text + line + rest);
+    const std::string file = scratch.write("a.dxf", head + line + rest);
     const std::string out = scratch.file("b.dxf");
     ASSERT_EQ(scratch.draft("trim " + file + " --pick 5,0 -o " + out).exitCode, 0);
 
