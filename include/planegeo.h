@@ -1375,7 +1375,89 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_ElpLen2(DTELLIPSE *ellipse, double wanted,
 /** @} */
 
 /** @defgroup ellipseArcs Ellipses: chains of circular arcs
+ *  For hosts whose targets know only lines and arcs. Arc k of a chain has element k of
+ *  the three output arrays, in the sense of travel: its centre, its radius, and its start
+ *  and end angle in @p out_angles [2k] and [2k + 1].
+ *
+ *  ca_elips() and ca_elip1() give the four-centre oval of draughtsmen; ca_elip2() keeps
+ *  to a tolerance.
  *  @{ */
+
+/**
+ * Replaces an elliptic arc by at most five arcs of the four-centre oval. Unlike other
+ * functions it takes half axes and radians.
+ *
+ * Half axes that differ by at most 1e-7 give one arc of radius @p a with the angles as
+ * passed, the rotation not applied. A span within 0.001 of 2 pi is the whole turn: four
+ * arcs, the first at the end of the longer axis. Else the ends are cut by the directions
+ * from their arcs' centres to points of the circle about the longer axis, not of the
+ * ellipse, and arcs of at most 1e-7 go.
+ *
+ * Half axes of zero or below, numbers that are not finite, and angles beyond 1e15, which
+ * cannot be reduced to a turn, give arcs without meaning or none.
+ *
+ * @param[in]  center centre of the ellipse
+ * @param[in]  a,b    half axes; the longer one comes to lie along the rotation
+ * @param[in]  angles two doubles, start and end, parametric from the first axis, radians
+ * @param[in]  rot    radians
+ * @param[out] out_centers,out_radii,out_angles the arcs, room for five each; angles in
+ *                    radians
+ * @param[out] count  0 to 5 arcs; with 0 nothing else is written
+ * @return always 0
+ * @see ca_elip1, which works in degrees, ca_elip2
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_elips(const DTPOINT *center, double a, double b,
+                                            const double *angles, double rot, DTPOINT *out_centers,
+                                            double *out_radii, double *out_angles, uint32_t *count);
+
+/**
+ * Replaces an elliptic arc by at most five arcs of the four-centre oval.
+ *
+ * The oval goes through the ends of both axes and elsewhere runs outside the ellipse, by
+ * up to 2.8 % of the longer half axis (where the axes are as 1 to 0.22; 1.9 % at 1 to 0.5,
+ * 0.6 % at 1 to 0.8). Joints are tangent. The chain starts and ends at the points of the
+ * oval next to the ellipse's own, unlike that of ca_elips(), and lies along the ellipse
+ * whichever axis is the longer. Axes equal within errdist give one arc of the mean radius.
+ *
+ * @param[in]  center,a,b,rot,angles the arc; start and end equal after reduction are the
+ *                    whole turn: four arcs, the first at the end of the longer axis
+ * @param[out] out_centers,out_radii,out_angles the arcs, room for five each; degrees, each
+ *                    range normalised as by a2d_StdSedeg()
+ * @param[out] count  1 to 5 arcs; 0 when the result is -1
+ * @return 0 done; -1 when an axis is not above errdist or a number is not finite, the
+ *         outputs but @p count are then untouched
+ * @see ca_elip2 for a chain within a tolerance
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_elip1(const DTPOINT *center, double a, double b, double rot,
+                                            const double *angles, DTPOINT *out_centers,
+                                            double *out_radii, double *out_angles, uint16_t *count);
+
+/**
+ * Replaces an elliptic arc by a tangent-continuous chain of circular arcs within a
+ * tolerance.
+ *
+ * No point of the chain lies further than @p tol from the arc, and none of the arc from
+ * the chain. The chain starts and ends on the arc's ends and goes through every end of an
+ * axis on the way, there square to the axis. Each quadrant has as few arcs as such a chain
+ * allows, and their number once fixed, the distance is made as small as it can be. Axes
+ * that differ by at most 2 @p tol give a whole ellipse as one circle.
+ *
+ * @param[in]  center,a,b,rot,angles the arc; start and end equal after reduction are the
+ *                     whole turn, which is closed and begins at the end of an axis at or
+ *                     before the start
+ * @param[in]  tol     drawing units; more than half the shorter axis counts as that
+ * @param[out] out_centers,out_radii,out_angles the arcs; degrees, each range normalised as
+ *                     by a2d_StdSedeg(); untouched unless the result is 0
+ * @param[in,out] count room in arcs, 0 to ask for the number (the arrays may then be null);
+ *                     the number of arcs, also when the result is -2; 0 for -1 and -3
+ * @return 0 done; -1 when an axis is not above errdist, @p tol not above 0 or a number not
+ *         finite; -2 when there are more arcs than room; -3 when they are more than 65535
+ *         or @p tol is below 4e-15 of the largest radius of curvature
+ * @see ca_elip1 for a chain of five arcs at most
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_elip2(const DTPOINT *center, double a, double b, double rot,
+                                            const double *angles, double tol, DTPOINT *out_centers,
+                                            double *out_radii, double *out_angles, uint16_t *count);
 
 /** @} */
 

@@ -136,6 +136,22 @@ inline constexpr double kShortRestLength = 1e-6;
 
 // Ellipses: chains of arcs, extents.
 
+/// Two half axes make a circle (<=): ca_elips.
+inline constexpr double kOvalCircleLength = 1e-7;
+/// A parameter may lie this far beyond an arc's range (<, >=): ca_elips.
+inline constexpr double kOvalParameterSlackRad = 1e-7;
+/// A span is the whole turn (<=): ca_elips.
+inline constexpr double kOvalWholeTurnRad = 0.001;
+/// An arc has to be longer (>): ca_elips.
+inline constexpr double kOvalArcSpanRad = 1e-7;
+/// A turn has to be larger (>): ca_elips.
+inline constexpr double kOvalTurnRad = 1e-7;
+/// A piece between an end of the arc and an axis, times the ratio of the axes, is not chained
+/// on its own (<): ca_elip2.
+inline constexpr double kChainPieceDeg = 1e-7;
+/// Tolerance over the largest radius of curvature, which doubles cannot hold (<): ca_elip2.
+inline constexpr double kChainRounding = 0x1p-48;
+
 /// A direction below its negative is raised by a turn (<): ca_elaln, ang_pnt.
 inline constexpr double kDirectionBelowZeroDeg = 1e-8;
 /// A direction above it is lowered by a turn (>): ca_elaln, ang_pnt.
