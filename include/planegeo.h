@@ -1451,8 +1451,9 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_elip1(const DTPOINT *center, double a, dou
  * @param[in,out] count room in arcs, 0 to ask for the number (the arrays may then be null);
  *                     the number of arcs, also when the result is -2; 0 for -1 and -3
  * @return 0 done; -1 when an axis is not above errdist, @p tol not above 0 or a number not
- *         finite; -2 when there are more arcs than room; -3 when they are more than 65535
- *         or @p tol is below 4e-15 of the largest radius of curvature
+ *         finite; -2 when there are more arcs than room; -3 when they are more than 65535,
+ *         or @p tol or half the shorter axis is below 4e-15 of the largest radius of
+ *         curvature
  * @see ca_elip1 for a chain of five arcs at most
  */
 PLANEGEO_API int32_t PLANEGEO_CALL ca_elip2(const DTPOINT *center, double a, double b, double rot,

@@ -146,8 +146,8 @@ inline constexpr double kOvalWholeTurnRad = 0.001;
 inline constexpr double kOvalArcSpanRad = 1e-7;
 /// A turn has to be larger (>): ca_elips.
 inline constexpr double kOvalTurnRad = 1e-7;
-/// A piece between an end of the arc and an axis, times the ratio of the axes, is not chained
-/// on its own (<): ca_elip2.
+/// The part of an arc up to an axis, times the ratio of the axes, that is not chained on its own
+/// (not >): ca_elip2.
 inline constexpr double kChainPieceDeg = 1e-7;
 /// Tolerance over the largest radius of curvature, which doubles cannot hold (<): ca_elip2.
 inline constexpr double kChainRounding = 0x1p-48;

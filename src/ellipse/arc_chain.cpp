@@ -49,20 +49,21 @@ double localRad(const Piece &piece, double deg) {
     return local == 90.0 ? kHalfPi : local * kRadPerDeg;
 }
 
-/// The stretches between two parameters. One too short to be seen goes, unless it is alone: the
-/// chain of its neighbour is then led on to the end.
-Pieces piecesBetween(double startDeg, double endDeg, double shortestDeg) {
+/// The stretches of an arc. One too short to be seen goes, and the chain of its neighbour is led
+/// on to the end.
+Pieces piecesOf(const LongAxisArc &arc) {
+    const double ratio = arc.frame.halfFirst / arc.frame.halfSecond;
+    const double shortestDeg = std::fmin(kChainPieceDeg * ratio, (arc.endDeg - arc.startDeg) / 8.0);
     Pieces pieces = {};
     for (int quadrant = 0; quadrant < 8; ++quadrant) {
-        const double from = std::fmax(startDeg, 90.0 * quadrant);
-        const double to = std::fmin(endDeg, 90.0 * (quadrant + 1));
-        const bool isAll = from == startDeg && to == endDeg;
-        if (!(to > from) || (to - from < shortestDeg && !isAll)) continue;
+        const double from = std::fmax(arc.startDeg, 90.0 * quadrant);
+        const double to = std::fmin(arc.endDeg, 90.0 * (quadrant + 1));
+        if (!(to - from > shortestDeg)) continue;
         Piece &piece = pieces.at[pieces.count++];
         piece.quadrant = quadrant;
         const double one = localRad(piece, from);
         const double other = localRad(piece, to);
-        piece.stretch = {std::fmin(one, other), std::fmax(one, other), {}, {}};
+        piece.stretch = {std::fmin(one, other), std::fmax(one, other)};
     }
     return pieces;
 }
@@ -236,8 +237,9 @@ Code chainEllipse(LongAxisArc arc, double tolerance, const Outputs &out, uint16_
     const Quadrant quadrant = {arc.frame.halfFirst, arc.frame.halfSecond};
     const double largestRadius = quadrant.a * (quadrant.a / quadrant.b);
     const auto room = std::exchange(count, uint16_t{0});
+    tolerance = std::fmin(tolerance, quadrant.b);
     if (tolerance < kChainRounding * largestRadius) return kTooFine;
-    const Task task = {quadrant, std::fmin(tolerance, quadrant.b) - 4.0 * kEpsilon * largestRadius};
+    const Task task = {quadrant, tolerance - 4.0 * kEpsilon * largestRadius};
     if (const auto one = oneArc(arc, task)) {
         count = 1;
         if (room < 1) return kNoRoom;
@@ -246,8 +248,7 @@ Code chainEllipse(LongAxisArc arc, double tolerance, const Outputs &out, uint16_
         return kDone;
     }
     if (arc.isWholeTurn) startAtAxis(arc);
-    const double shortest = kChainPieceDeg * quadrant.a / quadrant.b;
-    const auto pieces = fitPieces(task, piecesBetween(arc.startDeg, arc.endDeg, shortest));
+    const auto pieces = fitPieces(task, piecesOf(arc));
     if (!pieces) return kTooFine;
     count = static_cast<uint16_t>(pieces->arcs());
     if (room < count) return kNoRoom;

@@ -117,6 +117,10 @@ std::optional<ChainFit> fitAxisCircle(const Quadrant &quadrant, const Stretch &s
     return ChainFit{distance, 1};
 }
 
+/// A chain on its own reaches its end with no more lowerings of the distance than this. One that
+/// goes on from a neighbour may need a distance near zero, where its circles are ill conditioned.
+constexpr int kLowerings = 4;
+
 } // namespace
 
 std::optional<ChainFit> fitChain(const Quadrant &quadrant, const Stretch &stretch, double tolerance,
@@ -135,7 +139,7 @@ std::optional<ChainFit> fitChain(const Quadrant &quadrant, const Stretch &stretc
     Sample low = {high.x * (circles + 0.2) / (circles + 1.4), 0.0};
     low.y = reach(low.x);
     for (int step = 0; low.y >= 0.0; ++step) {
-        if (step == 12) return std::nullopt;
+        if (step == kLowerings) return std::nullopt;
         high = low;
         low.x *= 0.7;
         low.y = reach(low.x);
@@ -190,6 +194,21 @@ double greatestProduct(double w, double q, double m) {
     return greatest;
 }
 
+/// Whether the curve goes anticlockwise about a centre (x, y) from one parameter to another: then
+/// each of its points lies on the ray through a point of the arc.
+///
+///     cross(P - c, P') = A B - (x B cos t + y A sin t) > 0
+bool goesAround(const Quadrant &quadrant, Vec2 center, double from, double to) {
+    const Vec2 wave = {center.x * quadrant.b, center.y * quadrant.a};
+    const double limit = quadrant.a * quadrant.b;
+    const auto isLow = [&](double t) {
+        return wave.x * std::cos(t) + wave.y * std::sin(t) < limit;
+    };
+    const double crest = std::remainder(directionRad(wave) - from, kTwoPi);
+    const bool holdsCrest = (crest < 0.0 ? crest + kTwoPi : crest) < to - from;
+    return isLow(from) && isLow(to) && (!holdsCrest || plainLength(wave) < limit);
+}
+
 } // namespace
 
 // The circles through the points at m - w and m + w, with centre (x, y): the power of the point
@@ -209,7 +228,8 @@ SingleArc singleArc(const Quadrant &quadrant, double from, double to) {
     const double power = f2 * greatestProduct(w, q, m);
     // |sqrt(r^2 + power) - r|, larger inside the circle than outside.
     const double inside = r * r - power;
-    const double distance = inside > 0.0 ? power / (r + std::sqrt(inside)) : kBeyond;
+    const bool isClose = inside > 0.0 && goesAround(quadrant, center, from, to);
+    const double distance = isClose ? power / (r + std::sqrt(inside)) : kBeyond;
     return {{center, r}, distance};
 }
 

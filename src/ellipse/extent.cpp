@@ -14,21 +14,21 @@ namespace {
 
 using namespace planegeo;
 
-struct PointPair {
+struct TangentPair {
     Vec2 one;
     Vec2 other;
 };
 
-PointPair withOpposite(Vec2 point) { return {point, -point}; }
+TangentPair withOpposite(Vec2 point) { return {point, -point}; }
 
-PointPair toPlane(const EllipseFrame &frame, const PointPair &points) {
+TangentPair toPlane(const EllipseFrame &frame, const TangentPair &points) {
     return {frame.toPlane(points.one), frame.toPlane(points.other)};
 }
 
 /// The local points with a tangent of a local direction; the first has a positive y.
 ///
 /// With m = tan phi and s^2 = m^2 A^2 + B^2: (-A^2 m / s, B^2 / s) and its mirror image
-PointPair tangentPoints(const EllipseFrame &frame, double phiDeg) {
+TangentPair tangentPoints(const EllipseFrame &frame, double phiDeg) {
     const double a2 = frame.halfFirst * frame.halfFirst;
     const double b2 = frame.halfSecond * frame.halfSecond;
     const double m = std::tan(phiDeg * kRadPerDeg);
@@ -88,13 +88,13 @@ struct LocalArc {
     }
 
     /// The points with a tangent of a direction, moved onto the arc.
-    PointPair pointsAlong(double directionDeg) const {
-        const PointPair found = alongWholeTurn(raisedOrLoweredOnce(directionDeg) - rotationDeg);
+    TangentPair pointsAlong(double directionDeg) const {
+        const TangentPair found = alongWholeTurn(raisedOrLoweredOnce(directionDeg) - rotationDeg);
         return toPlane(frame, {nearest(found.one), nearest(found.other)});
     }
 
     /// The local direction is not reduced, on purpose: 360 and 450 go to the formula.
-    PointPair alongWholeTurn(double phiDeg) const {
+    TangentPair alongWholeTurn(double phiDeg) const {
         if (isAlong(phiDeg, 90.0) || isAlong(phiDeg, 270.0)) {
             return withOpposite({frame.halfFirst, 0.0});
         }
@@ -118,8 +118,8 @@ Extents extentsOf(Vec2 center, double first, double second, double rotationDeg,
     // Equal angles span nothing: a whole ellipse has to be given as a span of 360.
     if (std::fabs(parameters.start - parameters.end) < kArcWithoutSpanDeg) return {};
     const auto arc = LocalArc::of(center, first, second, rotationDeg, parameters);
-    const PointPair alongY = arc.pointsAlong(90.0);
-    const PointPair alongX = arc.pointsAlong(0.0);
+    const TangentPair alongY = arc.pointsAlong(90.0);
+    const TangentPair alongX = arc.pointsAlong(0.0);
     Extents box = {
         true, alongY.one, alongY.one, {alongY.one, alongY.other, alongX.one, alongX.other}};
     for (const Vec2 point : box.extremes) {
@@ -138,9 +138,9 @@ int32_t ca_elaln(const DTPOINT *center, double a, double b, double rot, double d
     const EllipseFrame frame = EllipseFrame::of(load(center), a, b, rot);
     const double phi = withinOneTurn(direction) - rot;
     // 90 alone is special, on purpose: at 270 the tangent's huge value is used.
-    const PointPair local =
+    const TangentPair local =
         isAlong(phi, 90.0) ? withOpposite({frame.halfFirst, 0.0}) : tangentPoints(frame, phi);
-    const PointPair points = toPlane(frame, local);
+    const TangentPair points = toPlane(frame, local);
     store(points.one, out1);
     store(points.other, out2);
     return 1; // on purpose, though it never fails
@@ -149,7 +149,7 @@ int32_t ca_elaln(const DTPOINT *center, double a, double b, double rot, double d
 int32_t ang_pnt(const DTPOINT *center, double a, double b, double rot, const double *angles,
                 double direction, DTPOINT *out1, DTPOINT *out2) {
     const auto arc = LocalArc::of(load(center), a, b, rot, {angles[0], angles[1]});
-    const PointPair points = arc.pointsAlong(direction);
+    const TangentPair points = arc.pointsAlong(direction);
     store(points.one, out1);
     store(points.other, out2);
     return 0;

@@ -79,7 +79,8 @@ OvalChain<RadianArc> cutByParameters(const Oval &oval, double s, double e) {
     // An angle beyond reduction can leave s whole turns away; as many are skipped.
     const double skipped = std::fmax(0.0, std::floor(s / kTwoPi) - 1.0);
     for (int i = 0; i < 16; ++i) {
-        const double bound = (skipped + i / 4) * kTwoPi + kParameterBounds[i % 4];
+        const int turn = i / 4;
+        const double bound = (skipped + turn) * kTwoPi + kParameterBounds[i % 4];
         if (!isStarted && bound < s + kOvalParameterSlackRad) continue;
         RadianArc arc = oval.arc(i % 4);
         if (!isStarted) arc.startRad = directionTo(arc, s);
@@ -142,7 +143,8 @@ OvalChain<Arc> cutByDirections(const Oval &oval, double fromDeg, double toDeg) {
     Arc last = {};
     for (int i = 0; i <= 8; ++i) {
         const RadianArc arc = oval.arc(i % 4);
-        const double turns = 360.0 * (i / 4);
+        const int turn = i / 4;
+        const double turns = 360.0 * turn;
         const double start = std::fmax(fromDeg, arc.startRad * kDegPerRad + turns);
         const double end = std::fmin(toDeg, arc.endRad * kDegPerRad + turns);
         if (end >= start) last = {arc.circle, {start, end}};

@@ -25,8 +25,11 @@ struct LongAxisArc {
         if (!std::isfinite(sum + parameters.start + parameters.end)) return std::nullopt;
         const double shortest = std::fmax(distanceTolerance(), 0.0);
         if (!(first > shortest && second > shortest)) return std::nullopt;
-        const auto [range, isWholeTurn] = AngleRange::normalised(parameters.start, parameters.end);
-        const double span = range.end - range.start;
+        const AngleRange range = AngleRange::normalised(parameters.start, parameters.end).range;
+        // Ends as near to each other across 0 are equal here as well.
+        const double rest = range.end - range.start;
+        const bool isWholeTurn = rest < kAngleSlackDeg || rest > 360.0 - kAngleSlackDeg;
+        const double span = isWholeTurn ? 360.0 : rest;
         const double quarter = second > first ? 90.0 : 0.0;
         if (second > first) std::swap(first, second);
         const double start = reducedDeg(range.start - quarter);

@@ -43,7 +43,7 @@ double distanceRoot(const Quadrant &quadrant, double middle, double half) {
 }
 
 /// A half this near to its secant is as near as its digits allow after one more.
-constexpr double kNearHalf = 1e-9;
+constexpr double kNearHalf = 0x1p-30;
 
 } // namespace
 
