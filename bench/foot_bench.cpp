@@ -67,7 +67,43 @@ const int kDistances[] = {
     distanceRow("a2d_dstpe", a2d_dstpe),
 };
 
+template <class Call> int feetRow(const char *name, Call call) {
+    return row(name, ellipticArc, [call](const PointAndEllipse &in) {
+        const DTELLIPSE e = in.record();
+        DTPOINT out[4] = {};
+        return call(&in.p, &e, out) + out[0].x;
+    });
+}
+template <class Call> int countedFeetRow(const char *name, Call call) {
+    return feetRow(name, [call](const DTPOINT *p, const DTELLIPSE *e, DTPOINT *out) {
+        uint32_t count = 0;
+        return call(p, e, out, &count) + static_cast<double>(count);
+    });
+}
+
+const int kFeet[] = {
+    feetRow("a2dEllpsPer",
+            [](const DTPOINT *p, const DTELLIPSE *e, DTPOINT *out) {
+                double dist = 0.0;
+                return a2dEllpsPer(p, e, out, &dist) + dist;
+            }),
+    feetRow("a2dEllpsPerPnts", a2dEllpsPerPnts),
+    feetRow("a2dEllpsArcPerPnts", a2dEllpsArcPerPnts),
+    countedFeetRow("a2d_PerEP", a2d_PerEP),
+    countedFeetRow("a2d_PerEP2", a2d_PerEP2),
+    feetRow("a2d_perle", a2d_perle),
+};
+
+template <class Call> int contactsRow(const char *name, Call call) {
+    return row(name, wholeEllipse, [call](const PointAndEllipse &in) {
+        DTPOINT out1{}, out2{};
+        return call(&in.p, &in.center, in.a, in.b, in.rot, &out1, &out2) + out1.x + out2.y;
+    });
+}
+
 const int kTangents[] = {
+    contactsRow("ca_inspe", ca_inspe),
+    contactsRow("a2d_tchpe", a2d_tchpe),
     row("a2d_tch2e", twoEllipses,
         [](const TwoEllipses &in) {
             const PointAndEllipse &e = in.e, &f = in.f;

@@ -1836,12 +1836,160 @@ PLANEGEO_API int32_t PLANEGEO_CALL a2d_chk_distdeg(const DTPOINT *points, int32_
 /** @} */
 
 /** @defgroup ellipseFeet Ellipses: perpendiculars
+ *  Feet of the perpendiculars from a point, where the line to the point meets the
+ *  ellipse at a right angle. The first axis must be the longer: codes -1 and -2
+ *  are told per function. A point within errdist of an axis counts as on it, one
+ *  within errdist of the centre as the centre. A general point inside the evolute
+ *  (a curve around the centre, within the ellipse's width at its ends) has four
+ *  feet, one outside it two.
  *  @{ */
+
+/**
+ * Finds the nearest foot of a perpendicular, the one in the point's own quadrant.
+ *
+ * From the centre and from the first axis inside the evolute two feet are as near.
+ *
+ * @param[in]  p    the point
+ * @param[in]  e    the ellipse; start and end are not read
+ * @param[out] out  array of 2, cleared first: the foot; (0, B) and (0, -B) in the
+ *                  ellipse's frame from the centre; both feet from the first axis,
+ *                  the one to the left of the axis first
+ * @param[out] dist its distance from @p p; untouched without a foot
+ * @return 1 or 2 feet; 0 for a NaN or an infinity; -1 an axis is not above errdist;
+ *         -2 the first axis does not exceed the second by more than errdist
+ * @see a2dEllpsPerPnts for all feet, a2d_dstpp for any axes
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2dEllpsPer(const DTPOINT *p, const DTELLIPSE *e, DTPOINT *out,
+                                               double *dist);
+
+/**
+ * Finds all feet of perpendiculars from a point to a full ellipse.
+ *
+ * The order, in the ellipse's frame: from the centre (A, 0), (0, B), (-A, 0),
+ * (0, -B); from the second axis (0, B), (0, -B), then the two beside it, the one
+ * with x > 0 first; from the first axis (A, 0), (-A, 0), then the two beside it,
+ * y > 0 first; from any other point the nearest foot, the farthest, then the two
+ * across the first axis, the one nearer to its end first.
+ *
+ * @param[in]  p   the point
+ * @param[in]  e   the ellipse; start and end are not read
+ * @param[out] out array of 4, cleared first
+ * @return number of feet, 2 or 4, or 0 for a NaN or an infinity; -1 an axis is not
+ *         above errdist; -2 the first axis does not exceed the second by more than
+ *         errdist (a circle, or the second axis the longer)
+ * @see a2d_PerEP for circles
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2dEllpsPerPnts(const DTPOINT *p, const DTELLIPSE *e,
+                                                   DTPOINT *out);
+
+/**
+ * As a2dEllpsPerPnts(), with only the feet that lie on the arc by ca_onelp().
+ *
+ * @param[out] out array of 4; untouched beyond the result
+ * @return number of feet on the arc, 0 to 4; -1 and -2 as there
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2dEllpsArcPerPnts(const DTPOINT *p, const DTELLIPSE *e,
+                                                      DTPOINT *out);
+
+/**
+ * Finds the feet of perpendiculars to an ellipse, or what stands in for them.
+ *
+ * Where a2dEllpsPerPnts() has no foot it is the nearest sample of the arc by
+ * ca_dstpp(), @p p itself if that is nearer than errdist. Where it answers -2 the
+ * ellipse counts as the circle over its first axis, and the answer is that of
+ * cross_lin_cir() for the line from @p p to the centre: the far point first.
+ *
+ * @param[in]  p     the point
+ * @param[in]  e     the ellipse; its arc counts for the nearest sample alone
+ * @param[out] out   array of 4, cleared first; a single point of the circle twice
+ * @param[out] count number of points; untouched when the result is -1
+ * @return 0 done; -1 an axis is not above errdist, or @p p is the centre of a circle
+ *         (within errdist in x and in y)
+ * @see a2d_PerEP2 for arcs
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_PerEP(const DTPOINT *p, const DTELLIPSE *e, DTPOINT *out,
+                                             uint32_t *count);
+
+/**
+ * As a2d_PerEP(), for an arc: by a2dEllpsArcPerPnts(), unless start and end are 0
+ * and 360 within errdist. A circle's points are kept by a2d_lin_arc() in mode 1,
+ * with start and end raised by the rotation.
+ *
+ * @param[out] out   array of 4; cleared first for 0 and 360 only; both of the first
+ *                   two are written for a circle, as a2d_lin_arc() does
+ * @param[out] count number of points, 0 where a circle's arc holds none; untouched
+ *                   when the result is -1
+ * @return 0 done; -1 as there
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_PerEP2(const DTPOINT *p, const DTELLIPSE *e, DTPOINT *out,
+                                              uint32_t *count);
+
+/**
+ * Projects a point onto an ellipse by its polar angle, taken for a parameter.
+ *
+ * The result is the point (A cos t, B sin t) for the direction t of @p p from the
+ * centre: no foot of a perpendicular, and on the ray to @p p on the axes alone.
+ * Whether it lies on the arc is asked of its own direction with 1e-8 degrees of
+ * slack, between start and end taken as polar angles.
+ *
+ * @param[in]  p   the point
+ * @param[in]  e   the ellipse; where exactly one of PLANEGEO_ATTR_REVERSED and
+ *                 PLANEGEO_ATTR_CLOCKWISE is set the arc runs from end to start; an
+ *                 end of the arc within 1e-6 of 0 counts as 360, and a negative
+ *                 start is raised by a turn, the end with it if negative
+ * @param[out] out the point; untouched when the result is -1
+ * @return 0 on the arc; 1 off it; -1 an axis is at most 1e-6, or @p p lies within
+ *         1e-6 of the centre in x and in y
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_perle(const DTPOINT *p, const DTELLIPSE *e, DTPOINT *out);
 
 /** @} */
 
 /** @defgroup ellipseTangents Ellipses: tangents
  *  @{ */
+/**
+ * Finds the points of contact of the tangents from a point to an ellipse, by the
+ * polar line of the point.
+ *
+ * There are none where the discriminant of the polar line y = m x + q against the
+ * ellipse, a length to the sixth, is at most 1e-8; for a point within 1e-8 of the
+ * first axis, where the squared ordinate of the contacts is. Small ellipses have
+ * none for that reason.
+ *
+ * @param[in]  p               the point
+ * @param[in]  center,a,b,rot  the ellipse; either axis may be the longer; one of
+ *                             zero gives the ends of the segment, non-finite
+ *                             outputs, or 1
+ * @param[out] out1,out2 cleared first; the contact with the greater x in the
+ *                             ellipse's frame is out1; for a point on the first
+ *                             axis the one with the greater y
+ * @return 0 done; 1 the point lies inside or on the ellipse
+ * @see a2d_tchpe
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL ca_inspe(const DTPOINT *p, const DTPOINT *center, double a,
+                                            double b, double rot, DTPOINT *out1, DTPOINT *out2);
+
+/**
+ * Finds the points of contact of the tangents from a point to an ellipse, by the
+ * feet of the foci: where a perpendicular from a focus meets a tangent, on the
+ * circle over the first axis.
+ *
+ * The point must be outside: half the sum of its focal distances must exceed half
+ * the first axis by more than 1e-6. A tangent that runs along one axis (to 1e-8
+ * between point and foot) touches at the end of the other.
+ *
+ * @param[in]  p              the point
+ * @param[in]  center,a,b,rot the ellipse; the first axis must not be the shorter
+ * @param[out] out1,out2 the contacts; that of the nearer focus's foot to the right of
+ *                       the direction from the centre to the middle between focus
+ *                       and point is out1. Unless the result is 2, untouched or
+ *                       points in the ellipse's frame that tell nothing
+ * @return 2 both found; 0 the point lies inside or on the ellipse, or the second
+ *         axis is zero or the longer; -1 the first axis is not positive
+ * @see ca_inspe
+ */
+PLANEGEO_API int32_t PLANEGEO_CALL a2d_tchpe(const DTPOINT *p, const DTPOINT *center, double a,
+                                             double b, double rot, DTPOINT *out1, DTPOINT *out2);
 
 /**
  * Finds the common tangents of two ellipses, each by its point of contact on

@@ -214,6 +214,26 @@ inline constexpr double kSameParameterDeg = 1e-8;
 
 /// A^2 y^2 + B^2 x^2 - A^2 B^2 of a point on the ellipse, a length to the fourth (<=): a2d_distpe.
 inline constexpr double kOnCurveValue = 0.0001;
+/// A full axis that leaves nothing to project onto (<=): a2d_perle.
+inline constexpr double kProjectedShortAxis = 1e-6;
+/// Both coordinates of a point at the centre (<): a2d_perle.
+inline constexpr double kProjectedAtCenter = 1e-6;
+/// The end of a range that counts as 360 (<): a2d_perle.
+inline constexpr double kProjectedEndAtZeroDeg = 1e-6;
+/// Slack of both ends of a range, and how far below 0 an angle may lie: a2d_perle.
+inline constexpr double kProjectedSlackDeg = 1e-8;
+/// A direction above it is lowered by a turn, once (>), and is beyond the turn's end: a2d_perle.
+inline constexpr double kProjectedMaxDeg = 360.00000001;
+/// Ordinate of a point whose polar line is upright (<): ca_inspe.
+inline constexpr double kPolarLineUpright = 1e-8;
+/// A squared ordinate, or a discriminant (length to the sixth), of a polar line that cuts the
+/// ellipse in no two points (<=): ca_inspe.
+inline constexpr double kPolarLineMisses = 1e-8;
+/// Excess of the focal distance over half the first axis that is still an ellipse (refused
+/// when >): a2d_tchpe.
+inline constexpr double kTangentFocusExcess = 1e-6;
+/// Distance of a focus's foot from the point at which it is the point itself (<): a2d_tchpe.
+inline constexpr double kFootAtPoint = 1e-6;
 /// A coordinate of the nearest sample that counts as zero (<): ca_dstpp.
 inline constexpr double kSampleSnapLength = 1e-6;
 

@@ -1,28 +1,15 @@
 // Where a point lies to an ellipse, and the nearest point of an elliptic arc.
 
 #include "base/angle.h"
-#include "base/doubled.h"
 #include "base/settings.h"
 #include "base/tolerance.h"
+#include "ellipse/implicit.h"
 #include "ellipse/normal_feet.h"
 #include "ellipse/sampled_distance.h"
 
 namespace {
 
 using namespace planegeo;
-
-/// F = A^2 y^2 + B^2 x^2 - A^2 B^2.
-double implicitValue(Vec2 q, const EllipseFrame &e) {
-    const double ay = e.halfFirst * q.y, bx = e.halfSecond * q.x, ab = e.halfFirst * e.halfSecond;
-    const double value = ay * ay + bx * bx - ab * ab;
-    // Only where the rounding of the three squares could decide are the digits lost counted.
-    const double rounding = 0x1p-51 * (ay * ay + bx * bx + ab * ab);
-    if (std::fabs(std::fabs(value) - kOnCurveValue) > rounding) return value;
-    const auto square = [](double a, double b) { return squared(Doubled::product(a, b)); };
-    return (square(e.halfFirst, q.y) + square(e.halfSecond, q.x) -
-            square(e.halfFirst, e.halfSecond))
-        .value();
-}
 
 /// The part of an ellipse between two parameters, as unit vectors (cos t, sin t).
 struct ArcOfDirections {
@@ -89,7 +76,7 @@ extern "C" {
 int32_t a2d_distpe(const DTPOINT *p, const DTELLIPSE *e) {
     constexpr int32_t kOn = 0, kOutside = 1, kInside = 2;
     const EllipseFrame frame = EllipseFrame::of(*e);
-    const double value = implicitValue(frame.toLocal(load(p)), frame);
+    const double value = implicitValue(frame.toLocal(load(p)), frame.halfFirst, frame.halfSecond);
     if (std::fabs(value) <= kOnCurveValue) return kOn;
     return value > 0.0 ? kOutside : kInside;
 }
