@@ -105,7 +105,7 @@ bool fitBeside(const Task &task, const Piece &neighbour, Piece &piece, bool &goe
 /// Fits the leading piece, with all that are whole quadrants like it, and then the others beside
 /// them. Nothing when more arcs are needed than can be counted.
 std::optional<Pieces> fitFrom(std::size_t leading, const Task &task, Pieces pieces) {
-    const int share = kMostArcs / static_cast<int>(pieces.count);
+    const int share = kMostArcs / std::max(1, static_cast<int>(pieces.count));
     const auto lead = task.fit(pieces.at[leading].stretch, share);
     if (!lead) return std::nullopt;
     pieces.at[leading].fit = *lead;
