@@ -1334,9 +1334,10 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_Simpson(PLANEGEO_INTEGRAND integrand, doub
  * @param[in]     wanted      the integral to reach
  * @param[in]     which       0 moves the lower limit, any other value the upper
  * @return 0 found; -2 found, but a range on the way did not settle; -1 given up:
- *         ten ranges in a row gave nothing or no change above 1e-6, the limit no
- *         longer changes, wanted is infinite, or 2^28 samples are spent (the range
- *         has then grown by at most 80 turns); else the integrand's code
+ *         ten ranges in a row gave nothing or no change above 1e-6, the integral is
+ *         not finite and the limit no longer changes, wanted is infinite, or 2^28
+ *         samples are spent (the range has then grown by at most 80 turns); else the
+ *         integrand's code
  */
 PLANEGEO_API int32_t PLANEGEO_CALL ca_Simpson2(PLANEGEO_INTEGRAND integrand, double *lower,
                                                double *upper, double wanted, int32_t which);

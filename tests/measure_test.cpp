@@ -243,6 +243,10 @@ TEST(LimitSearch, stepsOfTheSearch) {
         -1);
     EXPECT_EQ(std::count(probe.asked.begin(), probe.asked.end(), -40.0), 11)
         << "one round, and ten without progress";
+    lo = 0.0, hi = 0.0; // 0.004 degrees have 7e-5, less have nothing
+    EXPECT_EQ(ca_Simpson2(answering([](double) { return 1.0; }), &lo, &hi, 1e-5, 1), -1);
+    EXPECT_EQ(std::count(probe.asked.begin(), probe.asked.end(), probe.asked.back()), 11)
+        << "one round more than nothing, and ten of an end that no longer moves";
 }
 
 TEST(Length, knownArcs) {

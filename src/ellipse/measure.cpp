@@ -4,7 +4,6 @@
 // from the process-wide table. Refinement settles at kSettledIntegral, an absolute difference.
 
 #include <limits>
-#include <optional>
 
 #include "base/settings.h"
 #include "ellipse/convert.h"
@@ -67,77 +66,99 @@ double highestOf(PLANEGEO_INTEGRAND integrand) {
     return kInfinity;
 }
 
-Integral integral(PLANEGEO_INTEGRAND integrand, double lo, double hi) {
-    const Integral found = seriesOf(integrand).integral(lo, hi, kLongestPass);
-    return found.outcome == Refinement::undecided ? sampled(integrand, lo, hi) : found;
-}
-
 struct FoundLimit {
     bool found;
     std::int32_t code; ///< when found 0 or kOutOfIntervals, else kGaveUp or the integrand's own
     double limit;
 };
 
+/// A range of degrees and the integral over it.
+struct Measured {
+    double lo;
+    double hi;
+    Integral integral;
+};
+
+/// Integrals over ranges: by the series of the integrand at first, over samples on demand.
+struct Measurer {
+    PLANEGEO_INTEGRAND integrand;
+    CosineSeries series;
+
+    Measured operator()(double lo, double hi) const {
+        const Integral summed = series.integral(lo, hi, kLongestPass);
+        if (summed.outcome != Refinement::undecided) return {lo, hi, summed};
+        return {lo, hi, sampled(integrand, lo, hi)};
+    }
+    void makeCertain(Measured &m) const {
+        if (m.integral.uncertainty > 0.0) m.integral = sampled(integrand, m.lo, m.hi);
+    }
+};
+
+Measurer measurerOf(PLANEGEO_INTEGRAND integrand) { return {integrand, seriesOf(integrand)}; }
+
+/// What the search sees in the integral over its range and that over the range before.
+struct Progress {
+    bool reached;
+    bool stalled;
+    bool doubtful; ///< an uncertain integral lies too near to a decision
+
+    static Progress of(const Integral &now, const Integral &before, double wanted) {
+        const double s = now.value;
+        const double change = s - before.value;
+        return {std::fabs(s - wanted) <= kReachedIntegral,
+                std::fabs(s) < kStalledIntegral || std::fabs(change) < kStalledIntegral,
+                isOpen(s - wanted, kReachedIntegral, now.uncertainty) ||
+                    isOpen(s, kStalledIntegral, now.uncertainty) ||
+                    isOpen(change, kStalledIntegral, now.uncertainty + before.uncertainty)};
+    }
+};
+
 /// Moves one limit until the integral is the wanted one, by steps that halve at each change of
 /// direction. The search begins as if after a shrink, so its very first stretch is half a step.
-/// Nothing where an uncertain integral lies too near to a decision.
-template <class Integrate>
-std::optional<FoundLimit> searchLimit(Integrate integrate, double lo, double hi, double wanted,
-                                      bool movesLower) {
+FoundLimit searchLimit(const Measurer &measure, double lo, double hi, double wanted,
+                       bool movesLower) {
     double &moved = movesLower ? lo : hi;
     const double outwards = movesLower ? -1.0 : 1.0;
     double step = kFirstSearchStepDeg;
     bool stretched = false;
-    Integral before = {Refinement::done};
+    Measured before = {lo, hi, {Refinement::done}};
     int stalls = 0;
     std::int32_t code = 0;
     for (std::int64_t samples = 0; samples < kMostSearchSamples;) {
-        const Integral found = integrate(lo, hi);
-        if (found.outcome == Refinement::undecided) return std::nullopt;
-        if (found.outcome == Refinement::refused) return FoundLimit{false, found.code, moved};
+        Measured now = measure(lo, hi);
+        Progress progress = Progress::of(now.integral, before.integral, wanted);
+        if (progress.doubtful) {
+            measure.makeCertain(now);
+            measure.makeCertain(before);
+            progress = Progress::of(now.integral, before.integral, wanted);
+        }
+        const Integral &found = now.integral;
+        if (found.outcome == Refinement::refused) return {false, found.code, moved};
         if (found.outcome == Refinement::outOfIntervals) code = kOutOfIntervals; // to the end
         samples += found.samples;
 
-        const double s = found.value;
-        const double change = s - before.value;
-        const double changeUncertainty = found.uncertainty + before.uncertainty;
-        if (isOpen(s - wanted, kReachedIntegral, found.uncertainty) ||
-            isOpen(s, kStalledIntegral, found.uncertainty) ||
-            isOpen(change, kStalledIntegral, changeUncertainty)) {
-            return std::nullopt;
-        }
-        if (std::fabs(s - wanted) <= kReachedIntegral) return FoundLimit{true, code, moved};
-        const bool stalled =
-            std::fabs(s) < kStalledIntegral || std::fabs(change) < kStalledIntegral;
-        stalls = stalled ? stalls + 1 : 0;
+        if (progress.reached) return {true, code, moved};
+        stalls = progress.stalled ? stalls + 1 : 0;
         if (stalls == kMostStalls) break;
-        before = found;
+        before = now;
 
-        const bool tooShort = s <= wanted; // a NaN counts as too long
+        const bool tooShort = found.value <= wanted; // a NaN counts as too long
         if (tooShort != stretched) step *= 0.5;
         stretched = tooShort;
         const double from = moved;
         moved += stretched ? outwards * step : -outwards * step;
-        // A limit that stays where it is repeats the round: it stalls to the end, or goes round
-        // for ever on a NaN. Nothing is infinitely long.
-        if (moved == from || wanted == kInfinity) break;
+        // A limit that stays where it is repeats the round. A number then stalls to the end;
+        // others would go round for ever. Nothing is infinitely long.
+        if ((moved == from && !std::isfinite(found.value)) || wanted == kInfinity) break;
     }
-    return FoundLimit{false, kGaveUp, moved};
+    return {false, kGaveUp, moved};
 }
 
 FoundLimit searchLimit(PLANEGEO_INTEGRAND integrand, double lo, double hi, double wanted,
                        bool movesLower) {
     const double farthest = std::fabs(hi - lo) + kFarthestStretchDeg;
     if (wanted > highestOf(integrand) * farthest) return {false, kGaveUp, 0.0}; // 57 times over
-    const CosineSeries series = seriesOf(integrand);
-    const auto summed = [&series](double from, double to) {
-        return series.integral(from, to, kLongestPass);
-    };
-    const auto stepped = [integrand](double from, double to) {
-        return sampled(integrand, from, to);
-    };
-    const auto fast = searchLimit(summed, lo, hi, wanted, movesLower);
-    return fast ? *fast : *searchLimit(stepped, lo, hi, wanted, movesLower);
+    return searchLimit(measurerOf(integrand), lo, hi, wanted, movesLower);
 }
 
 struct Range {
@@ -170,7 +191,7 @@ int32_t ca_AreaElp(double deg, double *value) { return sectorSpeed(deg, value); 
 int32_t ca_Simpson(PLANEGEO_INTEGRAND integrand, double lower, double upper, double *result) {
     *result = 0.0;
     if (lower > upper) return kReversedLimits;
-    const Integral found = integral(integrand, lower, upper);
+    const Integral found = measurerOf(integrand)(lower, upper).integral;
     if (found.outcome == Refinement::refused) return found.code;
     if (found.outcome == Refinement::outOfIntervals) return kOutOfIntervals;
     *result = found.value;
@@ -190,7 +211,7 @@ int32_t ca_ElpLen(const DTELLIPSE *ellipse, double *length) {
         return polarOfParameter(ellipse->a, ellipse->b, parameterDeg);
     };
     const Range range = measuredRange({polar(ellipse->start), polar(ellipse->end)});
-    *length = integral(arcSpeed, range.start, range.end).value;
+    *length = measurerOf(arcSpeed)(range.start, range.end).integral.value;
     return 0;
 }
 
