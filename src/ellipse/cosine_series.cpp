@@ -129,13 +129,13 @@ SimpsonSum CosineSeries::simpson(double lo, double hi, std::int64_t n) const {
         s = s * whole;
         q = q * step;
     }
-    // In roundings, for a term of at most span |c_k|: the sum over samples has n for the additions
-    // and some 20 for each of them, 2k 4T for its angle, T being the larger limit; the closed form
-    // some 10k for its turns, k 8T for their angles.
+    const double value = h * ((*this)[0] * static_cast<double>(n) + sum * 2.0 / 3.0);
+    // In roundings: the sum over samples has n of its value for the additions, none of its terms
+    // being negative; and for a term of at most span |c_k| some 20, 2k 4T for its angle, T being
+    // the larger limit; the closed form some 10k for its turns, k 8T for their angles.
     const double farthest = (std::fabs(lo) + std::fabs(hi)) * kRadPerDeg;
-    const double roundings = static_cast<double>(n) + 64.0 + 32.0 * farthest;
-    return {h * ((*this)[0] * static_cast<double>(n) + sum * 2.0 / 3.0),
-            kUnitRoundoff * roundings * span * weight_};
+    return {value, kUnitRoundoff * (static_cast<double>(n) * value +
+                                    (64.0 + 32.0 * farthest) * span * weight_)};
 }
 
 Integral CosineSeries::integral(double lo, double hi, std::int64_t longestPass) const {
