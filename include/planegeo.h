@@ -1485,7 +1485,7 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_elip2(const DTPOINT *center, double a, dou
  * @param[in]  n,k    number of pieces and of the point, 1 <= k <= n
  * @param[out] out    the point
  * @param[out] len    length of a piece
- * @return 0 done; 1 k exceeds n or is below 1, or no memory, or n above 2^24; -1
+ * @return 0 done; 1 k exceeds n or is below 1, or no memory, or n above 2^22; -1
  *         start exceeds end (at every call); outputs are untouched in these cases.
  *         -2 from the call that measures: the length does not settle, or the span
  *         exceeds 36000 degrees; the length is 0 and every point the end

@@ -27,7 +27,7 @@ constexpr double kLongestSpanDeg = 36000.0;
 /// Steps of the running sum in a piece, on average, from which on they are not walked.
 constexpr std::int64_t kStepsPerPiece = 64;
 /// A table of more entries counts as one that cannot be allocated.
-constexpr std::int32_t kMostPieces = 1 << 24;
+constexpr std::int32_t kMostPieces = 1 << 22;
 
 struct Arc {
     Vec2 center;
