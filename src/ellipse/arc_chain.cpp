@@ -4,7 +4,9 @@
 // its own; all of them are square to the axes there, so they join. Quadrants that are covered
 // whole have one chain, mirrored, and the circle at the end of an axis goes on past it.
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 #include "base/tolerance.h"
 #include "ellipse/arc_spline.h"
@@ -26,7 +28,7 @@ struct Piece {
 
     /// In every other quadrant the flat end comes first.
     bool runsBack() const { return quadrant % 2 != 0; }
-    /// Parameters run through the piece so much further than zero.
+    /// Parameter of its sharp end.
     double sharpDeg() const { return 90.0 * (quadrant + (runsBack() ? 1 : 0)); }
 };
 
@@ -49,8 +51,8 @@ double localRad(const Piece &piece, double deg) {
     return local == 90.0 ? kHalfPi : local * kRadPerDeg;
 }
 
-/// The stretches of an arc. One too short to be seen goes, and the chain of its neighbour is led
-/// on to the end.
+/// The stretches of an arc. One so short that its angles would read as a whole circle goes, and
+/// the chain of its neighbour is led on to the end.
 Pieces piecesOf(const LongAxisArc &arc) {
     const double ratio = arc.frame.halfFirst / arc.frame.halfSecond;
     const double shortestDeg = std::fmin(kChainPieceDeg * ratio, (arc.endDeg - arc.startDeg) / 8.0);
@@ -265,10 +267,11 @@ int32_t ca_elip2(const DTPOINT *center, double a, double b, double rot, const do
                  double tol, DTPOINT *out_centers, double *out_radii, double *out_angles,
                  uint16_t *count) {
     const auto arc = LongAxisArc::of(load(center), a, b, rot, {angles[0], angles[1]});
-    if (arc && tol > 0.0)
-        return chainEllipse(*arc, tol, {out_centers, out_radii, out_angles}, *count);
-    *count = 0;
-    return kDegenerate;
+    if (!arc || !(tol > 0.0)) {
+        *count = 0;
+        return kDegenerate;
+    }
+    return chainEllipse(*arc, tol, {out_centers, out_radii, out_angles}, *count);
 }
 
 } // extern "C"
