@@ -88,8 +88,10 @@ TEST(SampledDistance, isThatOfThePlainSteps) {
         }
         const double a = e.a / 2, b = e.b / 2, t = random.angleDeg() * kRadPerDeg;
         const double evolute = (a - b) * (a + b), share = random.logUniform(1e-12, 10);
+        const double tie = (e.start + 7 + (i % 4 < 2 ? 0.5 : 0.05)) * kRadPerDeg;
         const DTPOINT locals[] = {
             random.point(e.a),
+            {(a + share * b) * std::cos(tie), (b + share * a) * std::sin(tie)},
             {a * std::cos(t) * (1 + share), b * std::sin(t) * (1 + share)},
             {evolute / a * std::pow(std::cos(t), 3), -evolute / b * std::pow(std::sin(t), 3)},
             {0, random.uniform(-a, a)},
@@ -97,7 +99,7 @@ TEST(SampledDistance, isThatOfThePlainSteps) {
             {0, 0},
             {a * share, b / share},
         };
-        const DTPOINT p = placed(e, locals[random.bits() % 7]);
+        const DTPOINT p = placed(e, locals[random.bits() % 8]);
         const Answer got = ask(ca_dstpp, e, p), want = ask(plainly, e, p);
         ASSERT_EQ(got.distance, want.distance);
         ASSERT_EQ(got.out, want.out);
@@ -217,9 +219,8 @@ TEST(NearestPoint, comesBackFromItsNormal) {
         const double along =
             i % 2 ? -sharpest * random.uniform(0, 1) : size * random.logUniform(1e-6, 10);
         const DTPOINT local = {a * c + along * b * c * inverse, b * s + along * a * s * inverse};
-        const double span = random.uniform(0, 180);
-        e.start = t - span;
-        e.end = t + span;
+        e.start = t - random.uniform(0, 350);
+        e.end = random.uniform(t, e.start + 359);
         const DTPOINT p = placed(e, local);
         // Some ten roundings of the coordinates.
         const double within = 10 * kEpsilon * (size + std::fabs(along) + std::hypot(e.cx, e.cy));

@@ -97,11 +97,19 @@ TEST(PointTangentsOfEllipse, codesAndOutputsWithoutContacts) {
         SCOPED_TRACE(c.about);
         const Answer focal = ask(a2d_tchpe, c.e, c.e.placed(c.local));
         EXPECT_EQ(focal.result, c.focal);
+        EXPECT_EQ(focal.out1 == kUntouchedPoint, c.focal != 2 && c.e.b > 0)
+            << "(0, 0) in that case";
         EXPECT_EQ(focal.out2 == kUntouchedPoint, c.focal != 2);
         const Answer polar = ask(ca_inspe, c.e, c.e.placed(c.local));
         EXPECT_EQ(polar.result, c.polar);
         EXPECT_EQ(polar.out1 == zero && polar.out2 == zero, c.polar == 1);
     }
+}
+
+TEST(PointTangentsOfEllipse, alongAnAxisTheContactIsTheOthersEnd) {
+    const Ellipse e = {{7, -3}, 10, 6, 30};
+    EXPECT_TRUE(near(ask(a2d_tchpe, e, e.pole(90 + 1e-8, 170)).out1, e.at(90), 50 * kEpsilon));
+    EXPECT_TRUE(near(ask(a2d_tchpe, e, e.pole(-80, 1e-8)).out2, e.at(0), 50 * kEpsilon));
 }
 
 /// Squares against 1e-8: beside the first axis y^2 of the contacts, elsewhere a discriminant of
@@ -116,13 +124,18 @@ TEST(PointTangentsOfEllipse, thePolarLineDecidesByItsOwnLimits) {
     }
 }
 
-/// The contact is mirrored where both candidates lie within 1e-6 of the tangent.
+/// Where both candidates lie within 1e-6 of the tangent the contact may be the other: below the
+/// axis at its positive end, above it at the negative one.
 TEST(PointTangentsOfEllipse, theFirstOfTwoMirroredContacts) {
     const Ellipse e = {{0, 0}, 2, 1, 0};
-    for (const double deg : {0.03, 0.07}) { // mirror images 1.1e-6 and 6e-6 (2 sin^2) apart
-        const Answer got = ask(a2d_tchpe, e, e.pole(deg, 80));
-        const double mirrored = 2 * sind(deg) * sind(deg) < 1e-6 ? -deg : deg;
-        EXPECT_TRUE(near(got.out1, e.at(mirrored), 1e-12)) << deg;
+    // The mirror image lies 2 sin^2 from the tangent: 0.7e-6 or 1.4e-6.
+    const double cases[][2] = {
+        {0.034, -0.034}, {0.048, 0.048}, {179.966, 179.966}, {180.034, 179.966}};
+    for (const auto &[deg, want] : cases) {
+        const double other = deg < 90 ? 80 : 100;
+        const Answer got = ask(a2d_tchpe, e, e.pole(deg, other));
+        const bool isFirst = distance(got.out1, e.at(other)) > 0.5;
+        EXPECT_TRUE(near(isFirst ? got.out1 : got.out2, e.at(want), 1e-12)) << deg;
     }
 }
 

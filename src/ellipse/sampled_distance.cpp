@@ -181,7 +181,8 @@ struct Seeds {
 
 /// Of the samples below any limit each unbroken stretch has a smallest one, and that one has a
 /// minimum of the distance beside it or is at an end: it is a seed. From those below the limit
-/// the stretches are followed to both sides; around a whole turn they close.
+/// the stretches are followed to both sides; around a whole turn they close. (A seed some samples
+/// off would do: all from there to the smallest would be chosen, at the price of computing them.)
 void SampledDistance::chooseDegrees(const Samples &samples, Chosen &chosen) const {
     const NormalFeet feet(q_, ellipse_.halfFirst, ellipse_.halfSecond);
     const bool closed = samples.closeTheTurn();
