@@ -1,5 +1,16 @@
 #include "dxf_frame.h"
 
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string_view>
+
+#include <unistd.h>
+
 #include "failure.h"
 
 namespace draft {
@@ -67,14 +78,41 @@ void writeBlocks(DL_Dxf &dxf, DL_WriterA &out, const std::vector<FrameBlock> &bl
     out.sectionEnd();
 }
 
+/// A file of its own for dxflib, which writes to nothing else.
+class TemporaryFile {
+  public:
+    TemporaryFile() {
+        std::string name = (std::filesystem::temp_directory_path() / "draft-XXXXXX").string();
+        const int descriptor = mkstemp(name.data());
+        if (descriptor < 0) throw Failure(name + ": cannot be written: " + std::strerror(errno));
+        close(descriptor);
+        path_ = name;
+    }
+    ~TemporaryFile() { std::remove(path_.c_str()); }
+    TemporaryFile(const TemporaryFile &) = delete;
+    TemporaryFile &operator=(const TemporaryFile &) = delete;
+
+    const std::string &path() const { return path_; }
+
+  private:
+    std::string path_;
+};
+
+std::string contentOf(const std::string &path) {
+    std::ifstream in(path, std::ios::binary);
+    std::ostringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
 } // namespace
 
-void writeFramed(const std::string &path, const std::vector<FrameLayer> &layers,
-                 const std::vector<FrameBlock> &blocks,
-                 const std::function<void(DL_Dxf &, DL_WriterA &)> &writeEntities) {
+std::string framedText(const std::vector<FrameLayer> &layers, const std::vector<FrameBlock> &blocks,
+                       const std::function<void(DL_Dxf &, DL_WriterA &)> &writeEntities) {
+    const TemporaryFile file;
     DL_Dxf dxf;
-    const std::unique_ptr<DL_WriterA> out(dxf.out(path.c_str(), DL_Codes::AC1015));
-    if (!out) throw Failure(path + ": cannot be written");
+    const std::unique_ptr<DL_WriterA> out(dxf.out(file.path().c_str(), DL_Codes::AC1015));
+    if (!out) throw Failure(file.path() + ": cannot be written");
     dxf.writeHeader(*out);
     out->sectionEnd();
     writeTables(dxf, *out, layers, blocks);
@@ -86,7 +124,12 @@ void writeFramed(const std::string &path, const std::vector<FrameLayer> &layers,
     dxf.writeObjectsEnd(*out);
     out->dxfEOF();
     out->close();
-    if (out->openFailed()) throw Failure(path + ": cannot be written");
+    // dxflib does not tell of a full disk, but then the end is missing.
+    constexpr std::string_view kEnd = "EOF\n";
+    std::string text = contentOf(file.path());
+    if (text.size() < kEnd.size() || text.substr(text.size() - kEnd.size()) != kEnd)
+        throw Failure(file.path() + ": cannot be written: no space left");
+    return text;
 }
 
 DL_Attributes onLayer(const std::string &layer) {

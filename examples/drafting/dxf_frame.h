@@ -20,11 +20,10 @@ struct FrameBlock {
     std::function<void(DL_Dxf &, DL_WriterA &)> writeContents;
 };
 
-/// Writes a whole file: header, tables, blocks, the entities that a function adds, objects.
-/// Throws Failure when the file cannot be written.
-void writeFramed(const std::string &path, const std::vector<FrameLayer> &layers,
-                 const std::vector<FrameBlock> &blocks,
-                 const std::function<void(DL_Dxf &, DL_WriterA &)> &writeEntities);
+/// The text of a whole file: header, tables, blocks, the entities that a function adds, objects.
+/// Throws Failure where there is no room for it.
+std::string framedText(const std::vector<FrameLayer> &layers, const std::vector<FrameBlock> &blocks,
+                       const std::function<void(DL_Dxf &, DL_WriterA &)> &writeEntities);
 
 /// By layer in everything.
 DL_Attributes onLayer(const std::string &layer);

@@ -44,6 +44,8 @@ const char *colorOf(ResultLayer::Kind kind) {
         return "#e07b00";
     case ResultLayer::Kind::division:
         return "#c2258c";
+    case ResultLayer::Kind::snap:
+        return "#1f8f3a";
     }
     return "#000000";
 }

@@ -10,7 +10,7 @@ namespace draft {
 
 /// One kind of result: its points and shapes get one colour and one line of the legend.
 struct ResultLayer {
-    enum class Kind { crossing, joint, overlap, tangent, division };
+    enum class Kind { crossing, joint, overlap, tangent, division, snap };
 
     Kind kind;
     std::string name; ///< with its count: "31 crossings"

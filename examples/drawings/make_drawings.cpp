@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "dxf_frame.h"
+#include "output_file.h"
 
 namespace {
 
@@ -209,16 +210,17 @@ int main(int argc, char **argv) {
     }
     const std::string directory = argv[1];
     try {
-        draft::writeFramed(directory + "/machine-part.dxf",
-                           {{"outline", 7}, {"holes", 5}, {"centre lines", 1}},
-                           {{"BOLT-HOLE", drawBoltHole}}, drawMachinePart);
-        draft::writeFramed(directory + "/floor-plan.dxf",
-                           {{"walls", 7}, {"doors", 3}, {"windows", 4}, {"furniture", 8}},
-                           {{"DOOR", drawDoor},
-                            {"WINDOW", drawWindow},
-                            {"CHAIR", drawChair},
-                            {"DINING PLACE", drawDiningPlace}},
-                           drawFloorPlan);
+        draft::writeFile(directory + "/machine-part.dxf",
+                         draft::framedText({{"outline", 7}, {"holes", 5}, {"centre lines", 1}},
+                                           {{"BOLT-HOLE", drawBoltHole}}, drawMachinePart));
+        draft::writeFile(
+            directory + "/floor-plan.dxf",
+            draft::framedText({{"walls", 7}, {"doors", 3}, {"windows", 4}, {"furniture", 8}},
+                              {{"DOOR", drawDoor},
+                               {"WINDOW", drawWindow},
+                               {"CHAIR", drawChair},
+                               {"DINING PLACE", drawDiningPlace}},
+                              drawFloorPlan));
     } catch (const std::exception &error) {
         std::cerr << "make_drawings: " << error.what() << '\n';
         return 1;

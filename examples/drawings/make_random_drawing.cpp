@@ -9,6 +9,7 @@
 #include <random>
 
 #include "dxf_frame.h"
+#include "output_file.h"
 
 namespace {
 
@@ -60,9 +61,9 @@ int main(int argc, char **argv) {
         return 2;
     }
     try {
-        draft::writeFramed(argv[2], {}, {}, [count](DL_Dxf &dxf, DL_WriterA &out) {
-            writeEntities(dxf, out, count);
-        });
+        draft::writeFile(argv[2], draft::framedText({}, {}, [count](DL_Dxf &dxf, DL_WriterA &out) {
+                             writeEntities(dxf, out, count);
+                         }));
     } catch (const std::exception &error) {
         std::cerr << "make_random_drawing: " << error.what() << '\n';
         return 1;

@@ -62,6 +62,24 @@ TEST(Tangents, AnArcIsTouchedWithinItsRangeOnly) {
     EXPECT_TRUE(touches(tangents[0]["to"], 1.8, 7.6)) << tangents;
 }
 
+TEST(Tangents, TouchEllipses) {
+    const Scratch scratch("ellipses");
+    // Half axes 5 and 3, and a circle as high as it.
+    const std::string file =
+        scratch.write("a.dxf", dxf("0 ELLIPSE|10 0|20 0|11 5|21 0|40 0.6|41 0|42 6.283185307179586"
+                                   "|0 CIRCLE|10 20|20 0|40 3"));
+    const json from = scratch.draft("tangents --from 0,9 -e 1 --json " + file).json()["tangents"];
+    ASSERT_EQ(from.size(), 2U);
+    for (const json &tangent : from) {
+        EXPECT_NEAR(tangent["to"]["y"].get<double>(), 1.0, 1e-12);
+        EXPECT_NEAR(std::fabs(tangent["to"]["x"].get<double>()), 5.0 * std::sqrt(8.0) / 3.0, 1e-12);
+    }
+    const json common = scratch.draft("tangents -e 1,2 --json " + file).json()["tangents"];
+    ASSERT_EQ(common.size(), 4U);
+    EXPECT_TRUE(touches(common[0]["from"], 0, -3) && touches(common[0]["to"], 20, -3)) << common;
+    EXPECT_TRUE(touches(common[1]["from"], 0, 3) && touches(common[1]["to"], 20, 3)) << common;
+}
+
 TEST(Tangents, TellsWhatItCannotTouch) {
     const Scratch scratch("no-curve");
     const std::string file = scratch.write("a.dxf", dxf(kCircles));

@@ -41,9 +41,12 @@ void addPictureOption(CLI::App &command, CommonOptions &options) {
     command.add_option("-o,--output", options.output, "also draw the answer into this SVG file");
 }
 
-void addPointOption(CLI::App &command, const std::string &name, std::vector<double> &point,
-                    const std::string &what) {
-    command.add_option(name, point, what)->delimiter(',')->allow_extra_args(false)->expected(2);
+CLI::Option *addPointOption(CLI::App &command, const std::string &name, std::vector<double> &point,
+                            const std::string &what) {
+    return command.add_option(name, point, what)
+        ->delimiter(',')
+        ->allow_extra_args(false)
+        ->expected(2);
 }
 
 void addEntityOption(CLI::App &command, std::vector<std::size_t> &numbers,

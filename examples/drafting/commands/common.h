@@ -29,8 +29,8 @@ void addJsonFlag(CLI::App &command, CommonOptions &options);
 /// "-o": a picture of the answer.
 void addPictureOption(CLI::App &command, CommonOptions &options);
 /// A point as "X,Y"; two numbers, or none when the option is not given.
-void addPointOption(CLI::App &command, const std::string &name, std::vector<double> &point,
-                    const std::string &what);
+CLI::Option *addPointOption(CLI::App &command, const std::string &name, std::vector<double> &point,
+                            const std::string &what);
 /// "-e": entities by the numbers that the tables show.
 void addEntityOption(CLI::App &command, std::vector<std::size_t> &numbers, const std::string &what);
 
