@@ -1,0 +1,165 @@
+"""What Doxygen reads instead of a file of the project.
+
+The header says in C what a host's author needs beside the code. For the site each function also
+gets its picture, its cost where that is constant, the entries of behaviours.md that tell of it,
+and, where it is another name of a function, that function's text. In the Markdown pages names of
+functions become links, and each entry of behaviours.md gets an anchor.
+
+    filter.py FILE               prints the file for Doxygen
+    filter.py --gallery FILE     writes the page with all pictures
+
+Run in the root of the project.
+"""
+
+import pathlib
+import re
+import sys
+
+BEHAVIOURS = pathlib.Path("docs/behaviours.md")
+EXPORTS = pathlib.Path("src/exports.txt")
+PAGES = {path.name: path.stem for path in pathlib.Path("docs").glob("*.md")}
+PAGES["CHANGELOG.md"] = "CHANGELOG"
+
+DECLARATION = re.compile(r"^PLANEGEO_API\b[^(]*\b(\w+)\(", re.M)
+COMMENT_AND_DECLARATION = re.compile(
+    r"/\*\*(?P<text>(?:(?!\*/).)*)\*/\n(?=PLANEGEO_API\b[^(]*?\b(?P<name>\w+)\()", re.S)
+PORTABILITY = re.compile(
+    r"^/\* Define PLANEGEO_STATIC.*?^#ifdef __cplusplus", re.M | re.S)
+
+
+def subjects():
+    """The exported names under the headings of their list."""
+    found = {}
+    heading = None
+    for line in EXPORTS.read_text().splitlines():
+        if line.startswith("# "):
+            heading = line[2:]
+        elif line:
+            found.setdefault(heading, []).append(line)
+    return found
+
+
+def exported():
+    return {name for names in subjects().values() for name in names}
+
+
+def page_label(stem):
+    return "mainpage" if stem == "index" else "page_" + stem.lower().replace("-", "_")
+
+
+class Behaviours:
+    """The entries of behaviours.md: bold titles, in lists or at the head of a paragraph."""
+
+    TITLE = re.compile(r"^(?P<bullet>- )?\*\*(?P<title>.+?)\*\*", re.M | re.S)
+
+    def __init__(self, names):
+        text = BEHAVIOURS.read_text()
+        starts = [match.start() for match in self.TITLE.finditer(text)] + [len(text)]
+        self.about = {name: [] for name in names}
+        for number, match in enumerate(self.TITLE.finditer(text)):
+            body = re.split(r"^#", text[match.end():starts[number + 1]], flags=re.M)[0]
+            title = " ".join(match["title"].replace("`", "").split()).rstrip(".")
+            subjects_of_it = (self.names_in(match["title"]) or self.names_in(body))
+            for name in dict.fromkeys(subjects_of_it):
+                if name in self.about:
+                    self.about[name].append((f"behaviour_{number}", title))
+
+    @staticmethod
+    def names_in(text):
+        return re.findall(r"`(\w+)`", text)
+
+    def anchored(self, text):
+        number = -1
+
+        def anchor(match):
+            nonlocal number
+            number += 1
+            return f"{match['bullet'] or ''}@anchor behaviour_{number} **{match['title']}**"
+
+        return self.TITLE.sub(anchor, text)
+
+
+def header(text):
+    names = exported()
+    behaviours = Behaviours(names)
+
+    def extended(match):
+        name, comment = match["name"], match["text"].rstrip().rstrip("*").rstrip()
+        lines = [comment]
+        original = re.search(r"(?:same function as|As) (\w+)\(\)", comment)
+        is_short = "@param" not in comment and "@return" not in comment
+        if original and is_short:
+            lines += ["", f"@copydetails {original[1]}"]
+        if "Cost: " not in comment and not (original and is_short):
+            lines += ["", "Cost: constant, no memory."]
+        if behaviours.about.get(name):
+            lines += ["", "@par Behaviours to know"]
+            lines += [f"- @ref {anchor} \"{title}\"" for anchor, title in behaviours.about[name]]
+        lines += ["", f"@image html {name}.svg"]
+        body = "\n".join([lines[0]] + [" * " + line for line in lines[1:]])
+        return f"/**{body}\n */\n"
+
+    text = PORTABILITY.sub("#ifdef __cplusplus", text)
+    text = COMMENT_AND_DECLARATION.sub(extended, text)
+    return re.sub(r"^ \* Cost: (\w)", lambda match: f" * @par Cost\n * {match[1].upper()}", text,
+                  flags=re.M)
+
+
+def linked(text):
+    """Names of functions and of pages become links, outside of code blocks."""
+    names = exported()
+
+    def name_link(match):
+        name = match[1]
+        return f"@ref {name} \"{name}\"" if name in names else match[0]
+
+    def page_link(match):
+        words, target = match[1], match[2]
+        name = target.split("/")[-1]
+        if name in PAGES:
+            return f"@ref {page_label(PAGES[name])} \"{words}\""
+        if re.match(r"https?:", target):
+            return match[0]
+        return f"{words} (`{target.removeprefix('../')}`)"
+
+    out = []
+    in_code = False
+    for line in text.splitlines():
+        if line.startswith("```"):
+            in_code = not in_code
+        if not in_code and not line.startswith("    "):
+            line = re.sub(r"(?<!!)\[([^]]*)\]\(([^)#]*)\)", page_link, line)
+            line = re.sub(r"`(\w+)(?:\(\))?`", name_link, line)
+        out.append(line)
+    return "\n".join(out) + "\n"
+
+
+def markdown(path, text):
+    label = page_label(path.stem)
+    text = re.sub(r"^# (.*)$", lambda match: f"# {match[1]} {{#{label}}}", text, count=1, flags=re.M)
+    if path.resolve() == BEHAVIOURS.resolve():
+        text = Behaviours(exported()).anchored(text)
+    return linked(text)
+
+
+def gallery():
+    lines = ["# Gallery", "",
+             "Every function, drawn by calling it: what goes in is blue, what comes out orange."]
+    for heading, names in subjects().items():
+        lines += ["", "## " + heading[0].upper() + heading[1:], "", '<div class="gallery">']
+        for name in names:
+            lines.append(f"<div>@ref {name}\n@image html {name}.svg\n</div>")
+        lines.append("</div>")
+    return "\n".join(lines) + "\n"
+
+
+def main(arguments):
+    if arguments[0] == "--gallery":
+        pathlib.Path(arguments[1]).write_text(gallery())
+        return
+    path = pathlib.Path(arguments[0])
+    text = path.read_text()
+    sys.stdout.write(header(text) if path.suffix == ".h" else markdown(path, text))
+
+
+main(sys.argv[1:])
