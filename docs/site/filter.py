@@ -79,6 +79,13 @@ class Behaviours:
         return self.TITLE.sub(anchor, text)
 
 
+def with_picture(comment, picture):
+    """Puts the picture between the text and the first parameter or result."""
+    place = re.search(r"^ \* @(?:param|return|copydetails)", comment, re.M)
+    at = place.start() if place else len(comment)
+    return comment[:at] + " *\n" + picture + comment[at:]
+
+
 def header(text):
     names = exported()
     behaviours = Behaviours(names)
@@ -95,8 +102,8 @@ def header(text):
         if behaviours.about.get(name):
             lines += ["", "@par Behaviours to know"]
             lines += [f"- @ref {anchor} \"{title}\"" for anchor, title in behaviours.about[name]]
-        lines += ["", f"@image html {name}.svg"]
         body = "\n".join([lines[0]] + [" * " + line for line in lines[1:]])
+        body = with_picture(body, f" * @image html {name}.svg\n *\n")
         return f"/**{body}\n */\n"
 
     text = PORTABILITY.sub("#ifdef __cplusplus", text)
