@@ -857,9 +857,8 @@ PLANEGEO_API int32_t PLANEGEO_CALL a2d_InsDc(const DTARC *elem, const DTARC *cut
  *
  * @param[in]     n    number of points in the array, which is not checked; below 3,
  *                     also negative, it is returned as it is
- * @param[in,out] list address of the array's address; the points kept move to the
- *                     front in their order, what follows them is undefined. Only
- *                     the n points are read or written
+ * @param[in,out] list address of the address of n points; those kept move to the
+ *                     front in their order, what follows them is undefined
  * @param[in]     tol  degrees, [0.1, 5.0]; a NaN merges nothing
  * @return the new number of points; -1 when the array is null or tol out of range
  */
@@ -1346,6 +1345,9 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_samel(const DTPOINT *center, double a, dou
 /**
  * An integrand: writes its value at an angle in degrees and returns 0; any other
  * code ends the integration, which returns it.
+ *
+ * @param[in]  deg   the angle
+ * @param[out] value the value
  */
 typedef int32_t(PLANEGEO_CALL *PLANEGEO_INTEGRAND)(double deg, double *value);
 
@@ -1481,7 +1483,7 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_ElpLen2(DTELLIPSE *ellipse, double wanted,
  * @param[in]  a,b    half axes; the longer one comes to lie along the rotation
  * @param[in]  angles two doubles, start and end, parametric from the first axis, radians
  * @param[in]  rot    radians
- * @param[out] out_centers,out_radii,out_angles the arcs, room for five each; angles in
+ * @param[out] out_centers,out_radii,out_angles room for five arcs each; angles in
  *                    radians
  * @param[out] count  0 to 5 arcs; with 0 nothing else is written
  * @return always 0
@@ -1502,7 +1504,7 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_elips(const DTPOINT *center, double a, dou
  *
  * @param[in]  center,a,b,rot,angles the arc; start and end equal after reduction are the
  *                    whole turn: four arcs, the first at the end of the longer axis
- * @param[out] out_centers,out_radii,out_angles the arcs, room for five each; degrees, each
+ * @param[out] out_centers,out_radii,out_angles room for five arcs each; degrees, each
  *                    range normalised as by a2d_StdSedeg()
  * @param[out] count  1 to 5 arcs; 0 when the result is -1
  * @return 0 done; -1 when an axis is not above errdist or a number is not finite, the
@@ -1530,8 +1532,8 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_elip1(const DTPOINT *center, double a, dou
  *                     whole turn, which is closed and begins at the end of an axis at or
  *                     before the start
  * @param[in]  tol     drawing units; more than half the shorter axis counts as that
- * @param[out] out_centers,out_radii,out_angles the arcs; degrees, each range normalised as
- *                     by a2d_StdSedeg(); untouched unless the result is 0
+ * @param[out] out_centers,out_radii,out_angles room for @p count arcs each; degrees, each range
+ *                     normalised as by a2d_StdSedeg(); untouched unless the result is 0
  * @param[in,out] count room in arcs, 0 to ask for the number (the arrays may then be null);
  *                     the number of arcs, also when the result is -2; 0 for -1 and -3
  * @return 0 done; -1 when an axis is not above errdist, @p tol not above 0 or a number not
@@ -1909,12 +1911,13 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_ins2e(const double *center1, const double 
  * of a unit apart by default) and their parameters on the ellipse differ by less
  * than 1e-8 degrees.
  *
- * @param[in]  points 2 to 4 points
- * @param[in]  n      their number
+ * @param[in]  points n points
+ * @param[in]  n      their number, 2 to 4
  * @param[in]  center centre of the ellipse, x and y
  * @param[in]  rot    rotation of the first axis, degrees
  * @param[in]  a,b    full axes
- * @param[out] out    the distinct points in their order; may be @p points itself
+ * @param[out] out    n points: the distinct ones in their order, what follows them is
+ *                    untouched; may be @p points itself
  * @return the number of distinct points; -1 when @p n is not 2 to 4, or an axis is
  *         shorter than errdist, @p out is then untouched
  */
