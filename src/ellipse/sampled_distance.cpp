@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <bitset>
 #include <cstdint>
+#include <optional>
 
 #include "base/tolerance.h"
 #include "ellipse/degree_table.h"
@@ -145,7 +146,7 @@ class SampledDistance {
     double roughSquare(Vec2 unit) const {
         return unit.x * (squares_ * unit.x - twice_.x) - twice_.y * unit.y;
     }
-    void roughSquares(const Samples &tenths, double *square) const;
+    std::optional<int> nearestInWholeTurn(const Samples &degrees) const;
     void chooseDegrees(const Samples &samples, Chosen &chosen) const;
     int firstNearest(const Samples &samples, const Chosen &chosen) const;
 
@@ -178,6 +179,29 @@ struct Seeds {
         }
     }
 };
+
+/// A whole turn in whole degrees, where one sample alone is below the limit.
+///
+/// Of every sample the mirror images in both axes are samples, too. Outside the point's own
+/// quadrant they are further away, by squares of at least 4 |A x| sin 1 or 4 |B y| sin 1; within
+/// it the distance has a single minimum, and falls up to the one sample and grows from the other.
+std::optional<int> SampledDistance::nearestInWholeTurn(const Samples &degrees) const {
+    constexpr double kTwiceSineOfDegree = 0.0349;
+    if (!degrees.closeTheTurn() || !isWhole(degrees.from)) return std::nullopt;
+    const double apart = kTwiceSineOfDegree * std::min(std::fabs(twice_.x), std::fabs(twice_.y));
+    if (!(apart > 2.0 * limit(0.0))) return std::nullopt;
+    const int before = NormalFeet(q_, ellipse_.halfFirst, ellipse_.halfSecond).degreeOfNearest();
+    const auto square = [&](int t) { return roughSquare(kDegrees.unit[t]); };
+    const double last = square(before), next = square(before + 1);
+    const bool isBefore = last < next;
+    const double beyond = square(isBefore ? (before > 0 ? before : kTurn) - 1 : before + 2);
+    const double most = limit(std::min(last, next));
+    if (!(std::max(last, next) > most && beyond > most)) return std::nullopt;
+    const int nearest = isBefore ? before : before + 1;
+    const int index = ((nearest - static_cast<int>(degrees.from)) % kTurn + kTurn) % kTurn;
+    if (degrees.hold(index + kTurn)) return std::nullopt;
+    return index;
+}
 
 /// Of the samples below any limit each unbroken stretch has a smallest one, and that one has a
 /// minimum of the distance beside it or is at an end: it is a seed. From those below the limit
@@ -250,44 +274,60 @@ int SampledDistance::firstNearest(const Samples &samples, const Chosen &chosen) 
 
 int SampledDistance::nearestDegree(const Samples &samples) const {
     Chosen chosen;
-    if (isScreened(samples)) chooseDegrees(samples, chosen);
+    if (isScreened(samples)) {
+        if (const auto alone = nearestInWholeTurn(samples)) return *alone;
+        chooseDegrees(samples, chosen);
+    }
     return firstNearest(samples, chosen);
 }
 
-/// roughSquare() of the samples t0, t0 + 0.1, ... by cosines and sines of sums, in t0 and in twice
-/// that; infinite beyond the last.
-void SampledDistance::roughSquares(const Samples &tenths, double *square) const {
-    const Vec2 t0 = RoughUnits(tenths.aboutFirstDeg()).after(0);
-    const double c = -(twice_.x * t0.x + twice_.y * t0.y), s = twice_.x * t0.y - twice_.y * t0.x;
-    const double c2 = 0.5 * squares_ * (t0.x - t0.y) * (t0.x + t0.y), s2 = -squares_ * t0.x * t0.y;
-    for (int i = 0; i < kMaxTenths; ++i) {
-        square[i] = c * kDegrees.cosOfTenth[i] + s * kDegrees.sinOfTenth[i] +
-                    c2 * kDegrees.cosOfFifth[i] + s2 * kDegrees.sinOfFifth[i];
+/// roughSquare() from a parameter t0 on, by cosines and sines in t - t0 and in twice that.
+struct SquareBesideDegree {
+    double c, s, c2, s2;
+
+    double atTenth(int i) const {
+        return c * kDegrees.cosOfTenth[i] + s * kDegrees.sinOfTenth[i] +
+               c2 * kDegrees.cosOfFifth[i] + s2 * kDegrees.sinOfFifth[i];
     }
-    for (int i = tenths.count; i < kMaxTenths; ++i) {
-        square[i] = HUGE_VAL;
+    /// The tenth next to its minimum, by a Newton step from the tenth in the middle of two
+    /// degrees; nothing unless it is convex on all of them.
+    std::optional<int> tenthOfLeast() const {
+        constexpr int kMiddle = 10;
+        constexpr double kTenthsPerRad = 10.0 * kDegPerRad, kDegreeRad = 1.1 * kRadPerDeg;
+        const double cosine = kDegrees.cosOfTenth[kMiddle], sine = kDegrees.sinOfTenth[kMiddle];
+        const double cosine2 = kDegrees.cosOfFifth[kMiddle], sine2 = kDegrees.sinOfFifth[kMiddle];
+        const double slope = s * cosine - c * sine + 2.0 * (s2 * cosine2 - c2 * sine2);
+        const double bend = -(c * cosine + s * sine) - 4.0 * (c2 * cosine2 + s2 * sine2);
+        const double bendChange =
+            std::fabs(c) + std::fabs(s) + 8.0 * (std::fabs(c2) + std::fabs(s2));
+        if (!(bend > kDegreeRad * bendChange)) return std::nullopt;
+        const double tenth = kMiddle + 0.5 - slope / bend * kTenthsPerRad;
+        return static_cast<int>(std::clamp(tenth, 0.0, kMaxTenths - 1.0));
     }
-}
+};
 
 int SampledDistance::nearestTenth(const Samples &samples) const {
     Chosen chosen;
     if (isScreened(samples)) {
-        double square[kMaxTenths];
-        roughSquares(samples, square);
-        double least = square[0], odd = square[1]; // two chains, each half as long
-        for (int i = 2; i < kMaxTenths; i += 2) {
-            least = std::min(least, square[i]);
-            odd = std::min(odd, square[i + 1]);
+        const Vec2 t0 = RoughUnits(samples.aboutFirstDeg()).after(0);
+        const SquareBesideDegree square = {
+            -(twice_.x * t0.x + twice_.y * t0.y), twice_.x * t0.y - twice_.y * t0.x,
+            0.5 * squares_ * (t0.x - t0.y) * (t0.x + t0.y), -squares_ * t0.x * t0.y};
+        // A convex one grows to both sides of a tenth that both neighbours exceed.
+        if (const auto least = square.tenthOfLeast()) {
+            const int i = std::min(*least, samples.count - 1);
+            const double most = limit(square.atTenth(i));
+            const bool growsDown = i == 0 || square.atTenth(i - 1) > most;
+            const bool growsUp = i + 1 == samples.count || square.atTenth(i + 1) > most;
+            if (growsDown && growsUp) return i;
         }
-        const double most = limit(std::min(least, odd));
-        int within = 0, last = 0;
-        for (int i = 0; i < kMaxTenths; ++i) {
-            within += square[i] <= most ? 1 : 0;
-            last = square[i] <= most ? i : last;
-        }
-        if (within == 1) return last;
+        double squares[kMaxTenths], least = HUGE_VAL;
         for (int i = 0; i < samples.count; ++i) {
-            if (square[i] <= most) chosen.add(i);
+            squares[i] = square.atTenth(i);
+            least = std::min(least, squares[i]);
+        }
+        for (int i = 0; i < samples.count; ++i) {
+            if (squares[i] <= limit(least)) chosen.add(i);
         }
     }
     return firstNearest(samples, chosen);
