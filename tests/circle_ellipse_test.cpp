@@ -168,6 +168,8 @@ TEST(CircleEllipse, TouchesAreDecidedBeyondRounding) {
         EXPECT_EQ(cross({3 * unit, 0, 2 * unit, unit, unit}).count, 1) << unit;
         EXPECT_EQ(cross({1.5 * unit, 0, 2 * unit, 1.2 * unit, 0.5 * unit}).count, 1)
             << "inside, " << unit;
+        EXPECT_EQ(cross({7 * unit, 0, 2 * unit, 2 * unit - 0x1p-16, 5 * unit}).count, 1)
+            << "nearly round, " << unit;
         EXPECT_EQ(cross({0, 7 * unit, 4 * unit, 2 * unit, 5 * unit}).count, 1) << unit;
     }
 }

@@ -177,7 +177,8 @@ class BiquadraticRoots {
     BiquadraticRoots(const Pencil &pencil, const CircleAndEllipse &curves)
         : curves_(curves), signX_(pencil.quadrant.x), xi_(pencil.xi),
           shift_(pencil.quadrant.y * pencil.eta), halfP_(halfSquareTerm(pencil)),
-          spread_(1.0 + pencil.g + squared(pencil.xi) - 2.0 * squared(pencil.eta)) {}
+          eta2_(squared(pencil.eta)), beyondXi_(1.0 + pencil.g - 2.0 * eta2_),
+          spread_(beyondXi_ + squared(pencil.xi)) {}
 
     /// +-sqrt(w), the greater w first.
     std::array<Root, 4> inOrder() const {
@@ -195,11 +196,14 @@ class BiquadraticRoots {
     Doubled xi_;
     Doubled shift_;
     Doubled halfP_;
+    Doubled eta2_;
+    Doubled beyondXi_; ///< spread - xi^2
     Doubled spread_;
 
     std::array<Root, 2> pairOf(Doubled half) const {
-        const Doubled w = 2.0 * xi_ * half - halfP_;
-        const Doubled x = half - xi_;
+        // xi is large where the ellipse is nearly round: no difference from it.
+        const Doubled x = half.hi > 0.0 ? beyondXi_ / (half + xi_) : half - xi_;
+        const Doubled w = (1.0 - x) * (1.0 + x) - eta2_;
         if (w.value() < 0.0) {
             const Root root = rootAt(x - w / (2.0 * xi_), 0.0, std::sqrt(-w.value()));
             return {root, root};
