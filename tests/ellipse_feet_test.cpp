@@ -154,6 +154,16 @@ TEST(AllFeet, codesAndWhatIsCleared) {
     const ToleranceGuard guard(-1); // lets a circle pass, whose quartic has no leading coefficient
     EXPECT_EQ(all({0, 0, 0, 6, 6, 0, 0, 0}, {4, 2}).result, -2);
     EXPECT_EQ(nearest({0, 0, 0, 6, 6, 0, 0, 0}, {4, 2}).result, 0);
+    const DTELLIPSE upright = {0, 0, 0, 5.8, 6, 0, 0, 0}; // its quartic has one, and four roots
+    const Answer got = all(upright, {0.05, 0.02});
+    EXPECT_EQ(got.result, 4);
+    EXPECT_EQ(got.out[2], nearest(upright, {0.05, 0.02}).out[0]);
+    const double x[] = {got.out[2].x, got.out[3].x, got.out[0].x, got.out[1].x};
+    EXPECT_TRUE(x[0] > 0 && 0 > x[1] && x[1] > x[2] && x[2] > x[3]) << "lower pair first";
+    for (const DTPOINT foot : got.out) {
+        EXPECT_LT(offCurve(upright, foot), 20 * kEpsilon);
+        EXPECT_LT(offNormal(upright, foot, {0.05, 0.02}), 100 * kEpsilon);
+    }
 }
 
 /// The feet are on the curve and square, in the order nearest, farthest, and across the first axis

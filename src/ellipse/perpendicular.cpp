@@ -52,7 +52,7 @@ class FeetQuestion {
     bool isOnFirstAxis() const { return std::fabs(q_.y) < distanceTolerance(); }
     /// Without a difference of the axes, which only a negative errdist lets pass, the quartic has
     /// no leading coefficient.
-    bool isSolvable() const { return !(k_ <= 0.0); }
+    bool isSolvable() const { return k_ != 0.0; }
 
     Feet besideFirstAxis() const;
     Feet besideSecondAxis() const;
@@ -61,7 +61,7 @@ class FeetQuestion {
 
     Vec2 q_;
     double a_, b_;
-    double k_; ///< A^2 - B^2
+    double k_; ///< A^2 - B^2; a negative errdist lets negative ones pass
 };
 
 /// For a point on the first axis: x = A^2 x0 / k, where that is on the ellipse.
@@ -83,7 +83,8 @@ Feet FeetQuestion::besideSecondAxis() const {
 /// The abscissas, positive on the point's side, are the real roots. Of two the closed form gives
 /// the greater first. Of four, x1 > x2 > x3 > x4, it gives x3, x4, x1, x2; the nearest foot is x3,
 /// the farthest x4, and x1 and x2 lie across the first axis. (Its other branch, which would pair
-/// them otherwise, needs a point within 1e-12 of the second axis.)
+/// them otherwise, needs a point within 1e-12 of the second axis.) With the second axis the longer
+/// the nearest foot is x1, the farthest x2, and x3 and x4 lie across the second axis.
 Feet FeetQuestion::ofGeneralPoint() const {
     if (!isSolvable()) return {{}, kNotLonger};
     const NormalFeet feet(q_, a_, b_);
@@ -93,6 +94,7 @@ Feet FeetQuestion::ofGeneralPoint() const {
     if (!feet.areFour()) return {{nearest, farthest}, 2};
     const Vec2 secondNearest = placed(feet.secondNearest());
     const Vec2 secondFarthest = placed(feet.secondFarthest());
+    if (k_ < 0.0) return {{secondFarthest, secondNearest, nearest, farthest}, 4};
     return {{nearest, farthest, secondFarthest, secondNearest}, 4};
 }
 
