@@ -14,12 +14,6 @@ namespace {
 /// Entities whose pairs one thread looks at in a row.
 constexpr std::size_t kChunk = 512;
 
-std::string pairName(const Shape &a, const Shape &b) {
-    const Kind low = std::min(kindOf(a), kindOf(b));
-    const Kind high = std::max(kindOf(a), kindOf(b));
-    return std::string(nameOf(low)) + " with " + nameOf(high);
-}
-
 bool endsAt(const Shape &shape, DTPOINT p) {
     const Ends ends = endsOf(shape);
     for (std::size_t i = 0; i < ends.count; ++i)

@@ -19,6 +19,7 @@ constexpr int kHandle = 5;
 constexpr int kTableHandle = 105;
 constexpr int kVariable = 9;
 constexpr int kSubclass = 100;
+constexpr int kBelongings = 102; ///< a bracket around handles of what belongs to an entity
 constexpr int kFirstExtended = 1000;
 constexpr const char *kHandleSeed = "$HANDSEED";
 
@@ -36,16 +37,43 @@ double reduced(double deg) {
     return rest < 0.0 ? rest + kFullTurnDeg : rest;
 }
 
-/// The groups that tell a shape; the first two of an arc or elliptic arc are its range.
-std::vector<std::pair<int, double>> geometryOf(const DTLINE &line, bool /*fromBehind*/) {
-    return {{10, line.x1}, {20, line.y1}, {11, line.x2}, {21, line.y2}};
+using Values = std::vector<std::pair<int, double>>;
+
+/// The heights at the ends of a part of a line that rises.
+Values heightsOf(const DTLINE &part, const Record &record) {
+    const double x1 = record.real(10, 0.0);
+    const double y1 = record.real(20, 0.0);
+    const double z1 = record.real(30, 0.0);
+    const double dx = record.real(11, 0.0) - x1;
+    const double dy = record.real(21, 0.0) - y1;
+    const double dz = record.real(31, 0.0) - z1;
+    const double squared = dx * dx + dy * dy;
+    if (dz == 0.0 || squared == 0.0) return {};
+    const auto heightAt = [&](double x, double y) {
+        const double t = ((x - x1) * dx + (y - y1) * dy) / squared;
+        return t == 1.0 ? z1 + dz : z1 + t * dz;
+    };
+    return {{30, heightAt(part.x1, part.y1)}, {31, heightAt(part.x2, part.y2)}};
 }
-std::vector<std::pair<int, double>> geometryOf(const DTARC &arc, bool fromBehind) {
+
+/// The groups that tell a shape which takes the place of a record's own.
+Values geometryOf(const DTLINE &line, const Record &record) {
+    Values values = {{10, line.x1}, {20, line.y1}, {11, line.x2}, {21, line.y2}};
+    const Values heights = heightsOf(line, record);
+    values.insert(values.end(), heights.begin(), heights.end());
+    return values;
+}
+
+bool isSeenFromBehind(const Record &record) { return record.real(230, 1.0) < 0.0; }
+
+Values geometryOf(const DTARC &arc, const Record &record) {
+    const bool fromBehind = isSeenFromBehind(record);
     const double start = fromBehind ? kHalfTurnDeg - arc.end : arc.start;
     const double end = fromBehind ? kHalfTurnDeg - arc.start : arc.end;
     return {{50, reduced(start)}, {51, reduced(end)}};
 }
-std::vector<std::pair<int, double>> geometryOf(const DTELLIPSE &e, bool fromBehind) {
+Values geometryOf(const DTELLIPSE &e, const Record &record) {
+    const bool fromBehind = isSeenFromBehind(record);
     const double start = fromBehind ? -e.end : e.start;
     const double end = fromBehind ? -e.start : e.end;
     return {{41, reduced(start) * kRadPerDeg}, {42, reduced(end) * kRadPerDeg}};
@@ -56,25 +84,34 @@ class RecordText {
   public:
     explicit RecordText(const Record &record) : record_(record) {}
 
-    /// The record with another shape in place of its own, and another handle unless it is empty.
-    std::string with(const Shape &shape, const std::string &handle) {
-        const bool fromBehind = record_.real(230, 1.0) < 0.0;
-        missing_ = std::visit([&](const auto &s) { return geometryOf(s, fromBehind); }, shape);
+    /// The record with another shape in place of its own.
+    std::string with(const Shape &shape) { return with(shape, true, ""); }
+    /// The same as a further entity, with a handle unless it is empty, and without what belongs
+    /// to one entity alone.
+    std::string further(const Shape &shape, const std::string &handle) {
+        return with(shape, false, handle);
+    }
+
+  private:
+    std::string with(const Shape &shape, bool isOwn, const std::string &handle) {
+        missing_ = std::visit([&](const auto &s) { return geometryOf(s, record_); }, shape);
         const bool isOpened = record_.kind == "CIRCLE";
         addChanged(record_.head, isOpened ? "ARC" : record_.kind);
         bool isInExtended = false;
+        bool isInBelongings = false;
         for (const Group &group : record_.groups) {
             if (!isInExtended && group.code >= kFirstExtended) {
                 addMissing(isOpened);
                 isInExtended = true;
             }
-            addGroup(group, handle);
+            const bool isBracket = group.code == kBelongings;
+            if (isBracket) isInBelongings = group.value.substr(0, 1) == "{";
+            if (isOwn || !(isBracket || isInBelongings)) addGroup(group, handle);
         }
         if (!isInExtended) addMissing(isOpened);
         return text_;
     }
 
-  private:
     void addChanged(const Group &group, std::string_view value) {
         const auto from = static_cast<std::size_t>(group.value.data() - group.lines.data());
         text_ += group.lines.substr(0, from);
@@ -119,15 +156,13 @@ class RecordText {
     }
 
     const Record &record_;
-    std::vector<std::pair<int, double>> missing_;
+    Values missing_;
     std::string text_;
 };
 
 /// New handles lie above every one of the file, and above the seed that tells so.
-struct Handles {
-    unsigned long long next = 1;
-    std::string_view seed; ///< its value in the text
-
+class Handles {
+  public:
     explicit Handles(std::string_view text) {
         RecordScanner scanner(text);
         for (Record record; scanner.next(record);) {
@@ -136,20 +171,30 @@ struct Handles {
                 if (group.code == kVariable) variable = group.value;
                 if (group.code != kHandle && group.code != kTableHandle) continue;
                 const bool isSeed = variable == kHandleSeed;
-                if (isSeed) seed = group.value;
+                if (isSeed) seed_ = group.value;
                 see(group.value, isSeed ? 0 : 1);
             }
         }
     }
 
-    std::string take() { return textOf(next++); }
-    std::string seedText() const { return textOf(next); }
+    std::string take() {
+        isTaken_ = true;
+        return textOf(next_++);
+    }
+
+    /// Writes the seed anew where it is told and has moved.
+    void updateSeed(std::string_view text, std::string &changed) const {
+        if (!isTaken_ || seed_.empty()) return;
+        // It stands in the header, before every change.
+        const auto place = static_cast<std::size_t>(seed_.data() - text.data());
+        changed.replace(place, seed_.size(), textOf(next_));
+    }
 
   private:
     void see(std::string_view digits, unsigned above) {
         unsigned long long handle = 0;
         std::from_chars(digits.data(), digits.data() + digits.size(), handle, 16);
-        next = std::max(next, handle + above);
+        next_ = std::max(next_, handle + above);
     }
 
     static std::string textOf(unsigned long long handle) {
@@ -160,6 +205,10 @@ struct Handles {
                        [](char c) { return c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c; });
         return text;
     }
+
+    unsigned long long next_ = 1;
+    std::string_view seed_; ///< its value in the text
+    bool isTaken_ = false;
 };
 
 } // namespace
@@ -179,18 +228,14 @@ std::string edited(const DxfFile &file, const Replacements &replacements) {
         if (found == byPlace.end()) continue;
         changed += text.substr(done, record.begin - done);
         done = record.end;
-        bool isFirst = true;
-        for (const Shape &shape : *found->second) {
-            changed += RecordText(record).with(shape, isFirst ? "" : handles.take());
-            isFirst = false;
-        }
+        const std::vector<Shape> &shapes = *found->second;
+        changed += RecordText(record).with(shapes.front());
+        const bool hasHandle = !record.value(kHandle).empty();
+        for (std::size_t i = 1; i < shapes.size(); ++i)
+            changed += RecordText(record).further(shapes[i], hasHandle ? handles.take() : "");
     }
     changed += text.substr(done);
-    // The seed stands in the header, before every change.
-    if (!handles.seed.empty()) {
-        const auto place = static_cast<std::size_t>(handles.seed.data() - text.data());
-        changed.replace(place, handles.seed.size(), handles.seedText());
-    }
+    handles.updateSeed(text, changed);
     return changed;
 }
 

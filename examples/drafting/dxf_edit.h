@@ -13,7 +13,8 @@ namespace draft {
 /// of the same curve.
 using Replacements = std::map<std::uint32_t, std::vector<Shape>>;
 
-/// The text of the file with them. A first shape keeps the record's handle, others get new ones.
+/// The text of the file with them. A first shape keeps the record's handle and what the record
+/// owns, others get handles of their own.
 std::string edited(const DxfFile &file, const Replacements &replacements);
 
 } // namespace draft

@@ -209,4 +209,9 @@ Meeting meetingOf(const Shape &first, const Shape &second) {
     return meeting;
 }
 
+std::string pairName(const Shape &first, const Shape &second) {
+    const auto [low, high] = std::minmax({kindOf(first), kindOf(second)});
+    return std::string(nameOf(low)) + " with " + nameOf(high);
+}
+
 } // namespace draft

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <string>
 
 #include "drawing.h"
 
@@ -21,5 +22,7 @@ struct Meeting {
 };
 
 Meeting meetingOf(const Shape &first, const Shape &second);
+/// "line with arc".
+std::string pairName(const Shape &first, const Shape &second);
 
 } // namespace draft

@@ -16,6 +16,7 @@ constexpr std::size_t kLongestValue = 1000;
 constexpr double kTiltSlack = 1e-6;
 
 constexpr int kHandle = 5;
+constexpr int kColor = 62;
 constexpr int kPolylineFlags = 70;
 constexpr int kMeshFlags = 16 | 64;  ///< a polyline that is a surface
 constexpr int kFrameVertexFlag = 16; ///< a vertex of the frame of a spline, not of its curve
@@ -29,8 +30,15 @@ bool isUnderstood(std::string_view kind) {
 
 /// The codes from which dxflib makes the entities above; names, numbers and the normal.
 bool isFed(int code) {
-    return code == 2 || code == 6 || code == 8 || (code >= 10 && code <= 59) ||
-           (code >= 62 && code <= 79) || (code >= 210 && code <= 230) || code == 370;
+    constexpr int kLinetypeScale = 48;
+    return code == 2 || code == 8 || (code >= 10 && code <= 59 && code != kLinetypeScale) ||
+           (code >= 70 && code <= 79) || (code >= 210 && code <= 230);
+}
+
+/// A height of zero is what dxflib takes a missing one for, and in most drawings all are zero.
+bool isMissed(const Group &group) {
+    return group.code < 30 || group.code >= 40 ||
+           group.value.find_first_not_of("+-.0") != std::string_view::npos;
 }
 
 bool isTilted(const Record &record) {
@@ -64,13 +72,15 @@ std::string blockKey(std::string_view name) {
 }
 
 RecordFeed::RecordFeed(std::string_view text, TallyByBlock &leftOut, std::vector<Source> &sources)
-    : scanner_(text), leftOut_(leftOut), sources_(sources) {}
+    : scanner_(text), leftOut_(leftOut), sources_(sources), progress_("reading", text.size()) {}
 
 RecordFeed::int_type RecordFeed::underflow() {
     chunk_.clear();
     try {
-        while (chunk_.empty() && scanner_.next(record_))
+        while (chunk_.empty() && scanner_.next(record_)) {
             take(record_);
+            progress_.add(record_.end - record_.begin);
+        }
     } catch (...) {
         failure_ = std::current_exception();
         chunk_.clear();
@@ -167,8 +177,12 @@ void RecordFeed::feed(const Record &record) {
 }
 
 void RecordFeed::feedGroups(const Record &record) {
-    for (const Group &group : record.groups)
-        if (isFed(group.code)) append(chunk_, group.code, group.value);
+    const bool hasColor = record.kind == "LAYER";
+    for (const Group &group : record.groups) {
+        const bool isColor = hasColor && group.code == kColor;
+        if (isColor || (isFed(group.code) && isMissed(group)))
+            append(chunk_, group.code, group.value);
+    }
 }
 
 void RecordFeed::feedEntity(const Record &record) {

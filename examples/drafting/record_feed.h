@@ -10,6 +10,7 @@
 
 #include "drawing.h"
 #include "dxf_records.h"
+#include "progress.h"
 
 namespace draft {
 
@@ -72,6 +73,7 @@ class RecordFeed : public std::streambuf {
     std::string block_;
     Record record_;
     std::string chunk_;
+    Progress progress_;
     std::exception_ptr failure_; ///< dxflib would leak memory if it were thrown through it
 };
 

@@ -40,16 +40,21 @@ class Candidates {
             return std::tie(a.distance, a.kind, a.entity) < std::tie(b.distance, b.kind, b.entity);
         });
         std::vector<Snap> kept;
-        for (const Snap &snap : found_) {
-            const auto isSame = [&](const Snap &other) {
-                return other.kind == snap.kind && isTogether(other.at, snap.at);
-            };
-            if (std::none_of(kept.begin(), kept.end(), isSame)) kept.push_back(snap);
-        }
+        for (const Snap &snap : found_)
+            if (!isRepeated(snap, kept)) kept.push_back(snap);
         return kept;
     }
 
   private:
+    /// What lies together is equally far away, so that only the last ones can be meant.
+    static bool isRepeated(const Snap &snap, const std::vector<Snap> &kept) {
+        for (auto other = kept.rbegin(); other != kept.rend(); ++other) {
+            if (snap.distance - other->distance > ca_geterrdist()) return false;
+            if (other->kind == snap.kind && isTogether(other->at, snap.at)) return true;
+        }
+        return false;
+    }
+
     DTPOINT at_;
     double radius_;
     std::vector<Snap> found_;
@@ -105,6 +110,29 @@ void addFrom(Candidates &candidates, const Shape &shape, std::size_t entity, DTP
         candidates.add(SnapKind::tangent, tangent.to, entity);
 }
 
+/// An entity that comes within the radius.
+struct Crossable {
+    std::uint32_t entity;
+    Box extents;
+};
+
+void addIntersections(Candidates &candidates, const Drawing &drawing,
+                      const std::vector<Crossable> &crossable) {
+    for (std::size_t i = 0; i < crossable.size(); ++i) {
+        for (std::size_t j = i + 1; j < crossable.size(); ++j) {
+            const Crossable &first = crossable[i];
+            const Crossable &second = crossable[j];
+            if (!areNear(first.extents, second.extents, ca_geterrdist())) continue;
+            const Meeting meeting = meetingOf(drawing.entities[first.entity].shape,
+                                              drawing.entities[second.entity].shape);
+            for (std::size_t k = 0; k < meeting.count; ++k) {
+                candidates.add(SnapKind::intersection, meeting.points[k], first.entity,
+                               second.entity);
+            }
+        }
+    }
+}
+
 } // namespace
 
 const char *nameOf(SnapKind kind) {
@@ -119,7 +147,7 @@ Snapper::Snapper(const Drawing &drawing) : drawing_(drawing), index_(boxesWithCe
 std::vector<Snap> Snapper::near(DTPOINT at, double radius, std::optional<DTPOINT> from) const {
     Candidates candidates(at, radius);
     std::vector<std::uint32_t> close;
-    std::vector<std::uint32_t> crossable;
+    std::vector<Crossable> crossable;
     index_.find({at.x, at.y, at.x, at.y}, radius, close);
     for (const std::uint32_t i : close) {
         const Shape &shape = drawing_.entities[i].shape;
@@ -127,18 +155,9 @@ std::vector<Snap> Snapper::near(DTPOINT at, double radius, std::optional<DTPOINT
         if (from) addFrom(candidates, shape, i, *from);
         const Nearest nearest = nearestOn(shape, at);
         candidates.add(SnapKind::nearest, nearest.point, i);
-        if (nearest.distance <= radius) crossable.push_back(i);
+        if (nearest.distance <= radius) crossable.push_back({i, extentsOf(shape)});
     }
-    for (std::size_t i = 0; i < crossable.size(); ++i) {
-        for (std::size_t j = i + 1; j < crossable.size(); ++j) {
-            const Meeting meeting = meetingOf(drawing_.entities[crossable[i]].shape,
-                                              drawing_.entities[crossable[j]].shape);
-            for (std::size_t k = 0; k < meeting.count; ++k) {
-                candidates.add(SnapKind::intersection, meeting.points[k], crossable[i],
-                               crossable[j]);
-            }
-        }
-    }
+    addIntersections(candidates, drawing_, crossable);
     return candidates.sorted();
 }
 

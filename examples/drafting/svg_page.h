@@ -13,7 +13,6 @@ class Page {
     explicit Page(const Box &extents);
 
     double width() const { return right() + kMargin; }
-    double height() const { return bottom() + kFooter; }
     double left() const { return kMargin + kTickRoom; }
     double right() const { return left() + areaWidth_; }
     double top() const { return kHeader; }
@@ -22,6 +21,12 @@ class Page {
     double scale() const { return scale_; }
     double x(double planeX) const { return left() + (planeX - originX_) * scale_; }
     double y(double planeY) const { return bottom() - (planeY - originY_) * scale_; }
+
+    /// The part of the plane that lies on the page.
+    Box shown() const {
+        return {originX_, originY_, originX_ + areaWidth_ / scale_,
+                originY_ + areaHeight_ / scale_};
+    }
 
     /// Lines at round coordinates, with their values beside.
     std::string grid() const;
@@ -32,7 +37,6 @@ class Page {
     static constexpr double kMargin = 28.0;
     static constexpr double kTickRoom = 34.0;
     static constexpr double kHeader = 64.0;
-    static constexpr double kFooter = 84.0;
 
     double areaWidth_ = 0.0, areaHeight_ = 0.0;
     double scale_ = 1.0;

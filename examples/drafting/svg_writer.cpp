@@ -5,6 +5,7 @@
 #include <cmath>
 #include <filesystem>
 
+#include "progress.h"
 #include "svg_page.h"
 #include "text.h"
 
@@ -29,26 +30,10 @@ text { font-family: "DejaVu Sans", "Helvetica Neue", Arial, sans-serif; fill: #1
 .ellipses { stroke: #0c8a6d; }
 .result { fill: none; stroke-width: 1.5; }
 .point { stroke: #ffffff; stroke-width: 1.2; }
+.mark { fill: none; stroke-width: 1.8; }
+.halo { fill: none; stroke: #ffffff; stroke-width: 3.6; stroke-opacity: 0.8; }
 </style>
 )";
-
-const char *colorOf(ResultLayer::Kind kind) {
-    switch (kind) {
-    case ResultLayer::Kind::crossing:
-        return "#d64545";
-    case ResultLayer::Kind::joint:
-        return "#9aa5b1";
-    case ResultLayer::Kind::overlap:
-        return "#8719e0";
-    case ResultLayer::Kind::tangent:
-        return "#e07b00";
-    case ResultLayer::Kind::division:
-        return "#c2258c";
-    case ResultLayer::Kind::snap:
-        return "#1f8f3a";
-    }
-    return "#000000";
-}
 
 enum class Group { lines, arcs, ellipses };
 constexpr std::size_t kGroupCount = 3;
@@ -108,12 +93,15 @@ std::string element(const std::string &outline, const char *attributes, const st
     return text + (title.empty() ? "/>\n" : "><title>" + xmlText(title) + "</title></path>\n");
 }
 
-std::string entities(const Drawing &drawing, const Page &page) {
+std::string entities(const Drawing &drawing, const Page &page, const Box &view) {
     std::array<std::string, kGroupCount> groups;
     const bool named = drawing.entities.size() <= kMostNamed;
     const Outline outline(page);
+    Progress progress("picture", drawing.entities.size());
     for (std::size_t i = 0; i < drawing.entities.size(); ++i) {
+        progress.add(1);
         const Entity &entity = drawing.entities[i];
+        if (!areNear(extentsOf(entity.shape), view, 0.0)) continue;
         const std::string path = std::visit(outline, entity.shape);
         std::string &group = groups[static_cast<std::size_t>(groupOf(kindOf(entity.shape)))];
         group += named
@@ -133,66 +121,44 @@ std::string entities(const Drawing &drawing, const Page &page) {
 
 double pointRadius(std::size_t count) { return count <= 300 ? 4.0 : count <= 3000 ? 2.5 : 1.5; }
 
-std::string resultLayer(const ResultLayer &layer, const Page &page) {
-    const char *color = colorOf(layer.kind);
-    std::string text = "<g class=\"result\" stroke=\"" + std::string(color) + "\">\n";
-    for (const Shape &shape : layer.shapes)
-        text += element(std::visit(Outline(page), shape), "", "");
-    text += "</g>\n<g class=\"point\" fill=\"" + std::string(color) + "\">\n";
-    const std::string radius = pixels(pointRadius(layer.points.size()));
-    for (const DTPOINT p : layer.points) {
-        text += "<circle cx=\"" + pixels(page.x(p.x)) + "\" cy=\"" + pixels(page.y(p.y)) +
-                "\" r=\"" + radius + "\"/>\n";
-    }
-    return text + "</g>\n";
+std::string strokeOf(ResultKind kind) {
+    return "class=\"result\" stroke=\"" + colorOf(kind) + "\"" + dashesOf(kind);
 }
 
-/// Places the keys of the legend one after the other.
-class Legend {
-  public:
-    Legend(double x, double y) : x_(x), y_(y) {}
+std::string resultLayer(const ResultLayer &layer, const Page &page) {
+    std::string text = "<g " + strokeOf(layer.kind) + ">\n";
+    for (const Shape &shape : layer.shapes)
+        text += element(std::visit(Outline(page), shape), "", "");
+    text += "</g>\n";
+    const double radius = pointRadius(layer.points.size());
+    for (const DTPOINT p : layer.points)
+        text += markOf(layer.kind, page.x(p.x), page.y(p.y), radius);
+    return text;
+}
 
-    void addLine(const std::string &css, const std::string &text) {
-        text_ +=
-            "<path class=\"" + css + "\" d=\"M" + pixels(x_) + " " + pixels(y_ - 4.0) + "h22\"/>";
-        addText(text);
-    }
-    void addPoint(const std::string &color, const std::string &text) {
-        text_ += "<circle class=\"point\" fill=\"" + color + "\" cx=\"" + pixels(x_ + 11.0) +
-                 "\" cy=\"" + pixels(y_ - 4.0) + "\" r=\"4\"/>";
-        addText(text);
-    }
-    const std::string &text() const { return text_; }
-
-  private:
-    void addText(const std::string &text) {
-        constexpr double kSwatch = 29.0;
-        constexpr double kPerCharacter = 7.6;
-        constexpr double kGap = 24.0;
-        text_ += "<text class=\"key\" x=\"" + pixels(x_ + kSwatch) + "\" y=\"" + pixels(y_) +
-                 "\">" + xmlText(text) + "</text>\n";
-        x_ += kSwatch + kPerCharacter * static_cast<double>(text.size()) + kGap;
-    }
-
-    double x_, y_;
-    std::string text_;
-};
-
-std::string legend(const Drawing &drawing, const std::vector<ResultLayer> &results,
-                   const Page &page) {
+Legend legendOf(const Drawing &drawing, const std::vector<ResultLayer> &results, const Page &page) {
+    constexpr double kBelowTicks = 42.0;
+    constexpr double kScaleBarRoom = 210.0;
     constexpr std::array<const char *, kGroupCount> kNames = {"lines", "circles and arcs",
                                                               "ellipses"};
     std::array<std::size_t, kGroupCount> counts{};
     for (const Entity &entity : drawing.entities)
         ++counts[static_cast<std::size_t>(groupOf(kindOf(entity.shape)))];
-    Legend keys(page.left(), page.bottom() + 46.0);
+    Legend legend(page.left(), page.bottom() + kBelowTicks,
+                  page.right() - page.left() - kScaleBarRoom);
     for (std::size_t i = 0; i < kGroupCount; ++i) {
-        if (counts[i] > 0) keys.addLine(std::string("shape ") + kGroupClass[i], kNames[i]);
+        const std::string css = std::string("class=\"shape ") + kGroupClass[i] + "\"";
+        if (counts[i] > 0) legend.addLine(css, kNames[i]);
     }
-    Legend found(page.left(), page.bottom() + 68.0);
-    for (const ResultLayer &layer : results)
-        found.addPoint(colorOf(layer.kind), layer.name);
-    return keys.text() + found.text();
+    legend.startRow();
+    for (const ResultLayer &layer : results) {
+        if (layer.shapes.empty() || hasMark(layer.kind)) {
+            legend.addMark(layer.kind, layer.name);
+        } else {
+            legend.addLine(strokeOf(layer.kind), layer.name);
+        }
+    }
+    return legend;
 }
 
 Box extentsOf(const Drawing &drawing, const std::vector<ResultLayer> &results) {
@@ -200,6 +166,8 @@ Box extentsOf(const Drawing &drawing, const std::vector<ResultLayer> &results) {
     for (const ResultLayer &layer : results) {
         for (const DTPOINT point : layer.points)
             box.widen(point);
+        for (const Shape &shape : layer.shapes)
+            box.join(draft::extentsOf(shape));
     }
     return box;
 }
@@ -215,9 +183,16 @@ std::string heading(const Drawing &drawing, const Page &page) {
 } // namespace
 
 std::string svgOf(const Drawing &drawing, const std::vector<ResultLayer> &results) {
-    const Page page(extentsOf(drawing, results));
+    return svgOf(drawing, results, extentsOf(drawing, results));
+}
+
+std::string svgOf(const Drawing &drawing, const std::vector<ResultLayer> &results,
+                  const Box &view) {
+    constexpr double kScaleBarDown = 52.0;
+    const Page page(view);
+    const Legend legend = legendOf(drawing, results, page);
     const std::string width = pixels(page.width());
-    const std::string height = pixels(page.height());
+    const std::string height = pixels(legend.bottom());
     const std::string area = "x=\"" + pixels(page.left()) + "\" y=\"" + pixels(page.top()) +
                              "\" width=\"" + pixels(page.right() - page.left()) + "\" height=\"" +
                              pixels(page.bottom() - page.top()) + "\"";
@@ -227,10 +202,10 @@ std::string svgOf(const Drawing &drawing, const std::vector<ResultLayer> &result
     svg += "<clipPath id=\"area\"><rect " + area + "/></clipPath>\n";
     svg += "<rect class=\"paper\" width=\"" + width + "\" height=\"" + height + "\"/>\n";
     svg += "<rect class=\"area\" " + area + "/>\n" + page.grid() + heading(drawing, page);
-    svg += "<g clip-path=\"url(#area)\">\n" + entities(drawing, page);
+    svg += "<g clip-path=\"url(#area)\">\n" + entities(drawing, page, page.shown());
     for (const ResultLayer &layer : results)
         svg += resultLayer(layer, page);
-    svg += "</g>\n" + legend(drawing, results, page) + page.scaleBar(page.bottom() + 56.0);
+    svg += "</g>\n" + legend.text() + page.scaleBar(page.bottom() + kScaleBarDown);
     return svg + "</svg>\n";
 }
 

@@ -94,35 +94,40 @@ struct Trimmed {
     const std::vector<DTPOINT> &cuts;
     DTPOINT pick; ///< on the shape
 
-    template <typename Curve>
-    std::optional<std::vector<Shape>> operator()(const Curve &curve) const {
+    template <typename Curve> std::optional<Trim> operator()(const Curve &curve) const {
         const std::vector<double> places = placesOf(curve, cuts);
         const auto after = std::upper_bound(places.begin(), places.end(), placeOf(curve, pick));
         if (isClosed(curve)) return openedAt(curve, places, after);
         if (places.empty()) return {};
-        std::vector<Shape> left;
-        if (after != places.begin()) left.push_back(part(curve, startPlace(curve), *(after - 1)));
-        if (after != places.end()) left.push_back(part(curve, *after, endPlace(curve)));
-        return left;
+        const bool isFirst = after == places.begin();
+        const bool isLast = after == places.end();
+        const double from = isFirst ? startPlace(curve) : *(after - 1);
+        const double to = isLast ? endPlace(curve) : *after;
+        Trim trim{{}, part(curve, from, to)};
+        if (!isFirst) trim.left.push_back(part(curve, startPlace(curve), from));
+        if (!isLast) trim.left.push_back(part(curve, to, endPlace(curve)));
+        return trim;
     }
 
   private:
-    /// From the cut after the pick round to the cut before it.
+    /// What is left runs from the cut after the pick round to the cut before it.
     template <typename Curve, typename Place>
-    static std::optional<std::vector<Shape>>
-    openedAt(const Curve &curve, const std::vector<double> &places, Place after) {
+    static std::optional<Trim> openedAt(const Curve &curve, const std::vector<double> &places,
+                                        Place after) {
         if (places.size() < 2) return {};
         const double from = after != places.end() ? *after : places.front();
         const double before = after != places.begin() ? *(after - 1) : places.back();
-        return std::vector<Shape>{
-            part(curve, from, before > from ? before : before + kFullTurnDeg)};
+        const auto behind = [](double place, double start) {
+            return place > start ? place : place + kFullTurnDeg;
+        };
+        return Trim{{part(curve, from, behind(before, from))},
+                    part(curve, before, behind(from, before))};
     }
 };
 
 } // namespace
 
-std::optional<std::vector<Shape>> trimmed(const Shape &shape, const std::vector<DTPOINT> &cuts,
-                                          DTPOINT pick) {
+std::optional<Trim> trimmed(const Shape &shape, const std::vector<DTPOINT> &cuts, DTPOINT pick) {
     return std::visit(Trimmed{cuts, nearestOn(shape, pick).point}, shape);
 }
 

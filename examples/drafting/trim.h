@@ -8,10 +8,14 @@
 
 namespace draft {
 
-/// What is left of a shape when the piece around a point is taken out, up to the nearest cuts on
-/// both sides: none, one or two shapes, the start's first. Nothing where the cuts bound no piece:
-/// none lies within an open shape, or fewer than two on a closed one.
-std::optional<std::vector<Shape>> trimmed(const Shape &shape, const std::vector<DTPOINT> &cuts,
-                                          DTPOINT pick);
+struct Trim {
+    std::vector<Shape> left; ///< one or two, the start's first
+    Shape removed;
+};
+
+/// Takes out the piece of a shape around a point, up to the nearest cuts on both sides. Nothing
+/// where the cuts bound no piece: none lies within an open shape, or fewer than two on a closed
+/// one.
+std::optional<Trim> trimmed(const Shape &shape, const std::vector<DTPOINT> &cuts, DTPOINT pick);
 
 } // namespace draft

@@ -213,7 +213,20 @@ TEST(Intersect, WrongUsageIsTold) {
     const Scratch scratch("usage");
     EXPECT_EQ(scratch.draft("").exitCode, 2);
     EXPECT_EQ(scratch.draft("intersect").exitCode, 2);
-    EXPECT_EQ(scratch.draft("paint a.dxf").exitCode, 2);
+    const auto unknown = scratch.draft("paint a.dxf");
+    EXPECT_EQ(unknown.exitCode, 2);
+    EXPECT_NE(unknown.err.find("paint"), std::string::npos) << unknown.err;
+    EXPECT_EQ(
+        scratch.draft("intersect " + program::sample("floor-plan.dxf") + " >/dev/full #").exitCode,
+        1);
+    for (const char *command :
+         {"intersect", "snap", "tangents", "measure", "divide", "arcs", "trim", "plot"}) {
+        const auto help = scratch.draft(std::string(command) + " --help");
+        EXPECT_EQ(help.exitCode, 0) << command;
+        EXPECT_NE(help.out.find("--json"), std::string::npos) << command;
+        EXPECT_NE(help.out.find(std::string("  draft ") + command + " "), std::string::npos)
+            << command << " shows an example";
+    }
     const auto help = scratch.draft("--help");
     EXPECT_EQ(help.exitCode, 0);
     EXPECT_NE(help.out.find("draft intersect floor-plan.dxf"), std::string::npos);

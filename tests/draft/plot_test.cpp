@@ -45,4 +45,23 @@ TEST(Plot, LeavesNothingWhereItCannotWrite) {
     EXPECT_EQ(scratch.count(), 0U);
 }
 
+TEST(Plot, TakesNoOtherFilesPlace) {
+    const Scratch scratch("own");
+    const std::string text = program::dxf("0 LINE|8 0|10 0|20 0|11 1|21 1");
+    const std::string file = scratch.write("a.dxf", text);
+    for (const std::string command : {"plot ", "intersect ", "trim --pick 0,0 "}) {
+        const auto own = scratch.draft(command + file + " -o " + scratch.file("./a.dxf"));
+        EXPECT_EQ(own.exitCode, 1);
+        EXPECT_NE(own.err.find("it is the drawing itself"), std::string::npos) << own.err;
+    }
+    EXPECT_EQ(contentOf(file), text);
+    // A link is written through.
+    const std::string target = scratch.write("target.svg", "before");
+    program::fs::create_symlink("target.svg", scratch.file("link.svg"));
+    ASSERT_EQ(scratch.draft("plot " + file + " -o " + scratch.file("link.svg")).exitCode, 0);
+    EXPECT_NE(contentOf(target).find("</svg>"), std::string::npos);
+    EXPECT_TRUE(program::fs::is_symlink(scratch.file("link.svg")));
+    EXPECT_EQ(scratch.count(), 3U);
+}
+
 } // namespace

@@ -104,6 +104,7 @@ TEST(Reading, RefusesWhatItCannotTrust) {
         {"infinite", dxf("0 CIRCLE|10 0|20 0|40 inf"), "'inf' is not a number"},
         {"beyond doubles", dxf("0 CIRCLE|10 0|20 1e999|40 1"), "'1e999' is not a number"},
         {"beyond drawings", dxf("0 CIRCLE|10 0|20 -1e13|40 1"), "too large"},
+        {"nothing to draw", dxf("0 POINT|10 0|20 0"), "left out: 1 POINT"},
         {"no entities", "0\nSECTION\n2\nHEADER\n0\nENDSEC\n0\nEOF\n", "no section of entities"},
     };
     for (const Case &c : cases) {

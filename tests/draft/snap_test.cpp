@@ -53,6 +53,17 @@ TEST(Snap, OffersWhatIsNear) {
     EXPECT_TRUE(std::is_sorted(near.begin(), near.end(), isNearer));
 }
 
+TEST(Snap, ShowsEachKindWithAMark) {
+    const Scratch scratch("marks");
+    const std::string svg = scratch.file("a.svg");
+    const std::string file = scratch.write("a.dxf", dxf(kDrawing));
+    ASSERT_EQ(scratch.draft("snap " + file + " --at 10,0.1 -r 1.2 -o " + svg).exitCode, 0);
+    const std::string picture = program::contentOf(svg);
+    for (const char *kind : {"where one points", "nearest", "middle", "centre", "quadrant"})
+        EXPECT_NE(picture.find(std::string(kind) + "</text>"), std::string::npos) << kind;
+    EXPECT_EQ(picture.find("ellipse #3"), std::string::npos) << "it lies far off";
+}
+
 TEST(Snap, DrawsPerpendicularsAndTangentsFromASecondPoint) {
     const Scratch scratch("second");
     const json circle = candidates(scratch, " --at 10,0 -r 1.5 --from 10,2");

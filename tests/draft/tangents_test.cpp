@@ -84,7 +84,7 @@ TEST(Tangents, TellsWhatItCannotTouch) {
     const Scratch scratch("no-curve");
     const std::string file = scratch.write("a.dxf", dxf(kCircles));
     EXPECT_EQ(scratch.draft("tangents -e 1,4 " + file).exitCode, 1);
-    EXPECT_EQ(scratch.draft("tangents " + file).exitCode, 1);
+    EXPECT_EQ(scratch.draft("tangents " + file).exitCode, 2);
     EXPECT_EQ(scratch.draft("tangents --from 1,nonsense " + file).exitCode, 2);
 }
 

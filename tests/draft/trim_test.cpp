@@ -93,9 +93,12 @@ TEST(Trim, PreservesWhatItDoesNotTouch) {
     const std::string head =
         "  0\r\nSECTION\r\n  2\r\nHEADER\r\n  9\r\n$HANDSEED\r\n  5\r\n2B\r\n  0\r\n"
         "ENDSEC\r\n  0\r\nSECTION\r\n  2\r\nENTITIES\r\n";
-    const std::string line = "  0\r\nLINE\r\n  5\r\n2A\r\n  8\r\nwalls\r\n 62\r\n     3\r\n"
-                             " 10\r\n0\r\n 20\r\n0\r\n 11\r\n10\r\n 21\r\n0\r\n1001\r\nHOST\r\n"
-                             "1000\r\nmine\r\n";
+    // A line that rises, with a dictionary of its own, and host data.
+    const std::string owned = "102\r\n{ACAD_XDICTIONARY\r\n360\r\n1F\r\n102\r\n}\r\n";
+    const std::string line =
+        "  0\r\nLINE\r\n  5\r\n2A\r\n" + owned +
+        "  8\r\nwalls\r\n 62\r\n     3\r\n 10\r\n0\r\n 20\r\n0\r\n 30\r\n1\r\n"
+        " 11\r\n10\r\n 21\r\n0\r\n 31\r\n2\r\n1001\r\nHOST\r\n1000\r\nmine\r\n";
     const std::string rest = "  0\r\nHELIX\r\n  8\r\n\xE4\r\n  0\r\nCIRCLE\r\n 10\r\n5\r\n 20\r\n"
                              "0\r\n 40\r\n2\r\n  0\r\nENDSEC\r\n  0\r\nEOF\r\n";
     const std::string file = scratch.write("a.dxf", head + line + rest);
@@ -105,10 +108,37 @@ TEST(Trim, PreservesWhatItDoesNotTouch) {
     const auto changed = [](std::string record, const std::string &from, const std::string &to) {
         return record.replace(record.find(from), from.size(), to);
     };
-    const std::string first = changed(line, " 11\r\n10\r\n", " 11\r\n3.0\r\n");
+    const auto startingAt = [&](const char *x, const char *z) {
+        const std::string from10 = std::string(" 10\r\n") + x + "\r\n";
+        const std::string from30 = std::string(" 30\r\n") + z + "\r\n";
+        return changed(changed(line, " 10\r\n0\r\n", from10), " 30\r\n1\r\n", from30);
+    };
+    const std::string first =
+        changed(changed(line, " 11\r\n10\r\n", " 11\r\n3.0\r\n"), " 31\r\n2\r\n", " 31\r\n1.3\r\n");
     const std::string second =
-        changed(changed(line, "\r\n2A\r\n", "\r\n2B\r\n"), " 10\r\n0\r\n", " 10\r\n7.0\r\n");
+        changed(changed(startingAt("7.0", "1.7"), "\r\n2A\r\n", "\r\n2B\r\n"), owned, "");
     EXPECT_EQ(contentOf(out), changed(head, "\r\n2B\r\n", "\r\n2C\r\n") + first + second + rest);
+
+    ASSERT_EQ(scratch.draft("trim " + file + " --pick 1,0 -o " + out).exitCode, 0);
+    EXPECT_EQ(contentOf(out), head + startingAt("3.0", "1.3") + rest) << "one piece, no new handle";
+}
+
+TEST(Trim, OpensACircleAsARecordThatOthersRead) {
+    const Scratch scratch("opens");
+    const std::string head = "0\nSECTION\n2\nENTITIES\n0\n";
+    const std::string place =
+        "5\nA1\n100\nAcDbEntity\n8\n0\n100\nAcDbCircle\n10\n0\n20\n0\n40\n5\n";
+    const std::string rest =
+        "0\nLINE\n5\nA2\n8\n0\n10\n0\n20\n-9\n11\n0\n21\n9\n0\nENDSEC\n0\nEOF\n";
+    const std::string out = scratch.file("b.dxf");
+    const std::string file = scratch.write("a.dxf", head + "CIRCLE\n" + place + rest);
+    const std::string svg = scratch.file("b.svg");
+    const auto outcome =
+        scratch.draft("trim " + file + " --pick 5,0 -o " + out + " --picture " + svg);
+    ASSERT_EQ(outcome.exitCode, 0) << outcome.err;
+    EXPECT_EQ(contentOf(out),
+              head + "ARC\n" + place + "100\nAcDbArc\n50\n90.0\n51\n270.0\n" + rest);
+    EXPECT_NE(contentOf(svg).find("taken out</text>"), std::string::npos);
 }
 
 TEST(Trim, RefusesWhereThereIsNothingToTake) {
@@ -131,7 +161,7 @@ TEST(Trim, RefusesWhereThereIsNothingToTake) {
                       "0 BLOCK|2 A|10 0|20 0|0 LINE|10 0|20 0|11 10|21 0|0 ENDBLK")
                   .find("inserted block"),
               std::string::npos);
-    EXPECT_NE(refusal("0 POINT|10 0|20 0").find("nothing to trim"), std::string::npos);
+    EXPECT_NE(refusal("0 POINT|10 0|20 0").find("; left out: 1 POINT"), std::string::npos);
 }
 
 } // namespace

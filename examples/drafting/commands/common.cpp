@@ -1,6 +1,7 @@
 #include "commands/common.h"
 
 #include <array>
+#include <filesystem>
 #include <iostream>
 #include <numeric>
 
@@ -19,26 +20,41 @@ std::string textOf(const Json &json, int indent) {
     return json.dump(indent, ' ', false, Json::error_handler_t::replace);
 }
 
-void tell(const std::string &what, const Tally &tally) {
-    if (tally.empty()) return;
+std::string listed(const Tally &tally) {
     std::string text;
     for (const auto &[kind, count] : tally)
         text += (text.empty() ? "" : ", ") + std::to_string(count) + " " + kind;
-    std::cerr << "draft: " << what << ": " << text << '\n';
+    return text;
+}
+
+void tell(const std::string &what, const Tally &tally) {
+    if (!tally.empty()) std::cerr << "draft: " << what << ": " << listed(tally) << '\n';
+}
+
+void refuseEmpty(const Drawing &drawing) {
+    if (!drawing.entities.empty()) return;
+    throw Failure(drawing.path + ": nothing in it is a line, circle, arc, ellipse or polyline" +
+                  (drawing.leftOut.empty() ? "" : "; left out: " + listed(drawing.leftOut)));
 }
 
 } // namespace
 
-void addFileArgument(CLI::App &command, CommonOptions &options) {
-    command.add_option("FILE", options.file, "the drawing, a text (ASCII) DXF")->required();
-}
-
-void addJsonFlag(CLI::App &command, CommonOptions &options) {
+void addCommonOptions(CLI::App &command, CommonOptions &options) {
+    command.add_option("FILE", options.file, "the drawing, a text (ASCII) DXF")
+        ->required()
+        ->option_text(" ");
     command.add_flag("--json", options.json, "answer as JSON, for programs");
 }
 
 void addPictureOption(CLI::App &command, CommonOptions &options) {
-    command.add_option("-o,--output", options.output, "also draw the answer into this SVG file");
+    command.add_option("-o,--output", options.output, "also draw the answer into this SVG file")
+        ->option_text("FILE");
+}
+
+void addOutputOption(CLI::App &command, CommonOptions &options, const std::string &what) {
+    command.add_option("-o,--output", options.output, what)
+        ->required()
+        ->option_text("FILE (required)");
 }
 
 CLI::Option *addPointOption(CLI::App &command, const std::string &name, std::vector<double> &point,
@@ -46,14 +62,16 @@ CLI::Option *addPointOption(CLI::App &command, const std::string &name, std::vec
     return command.add_option(name, point, what)
         ->delimiter(',')
         ->allow_extra_args(false)
-        ->expected(2);
+        ->expected(2)
+        ->option_text("X,Y");
 }
 
 void addEntityOption(CLI::App &command, std::vector<std::size_t> &numbers,
                      const std::string &what) {
-    command.add_option("-e,--entity", numbers, what + ", by their numbers: 3,7")
+    command.add_option("-e,--entity", numbers, what + ", by the numbers in the tables")
         ->delimiter(',')
-        ->allow_extra_args(false);
+        ->allow_extra_args(false)
+        ->option_text("N,...");
 }
 
 std::vector<std::size_t> chosenOrAll(const Drawing &drawing,
@@ -74,10 +92,18 @@ std::vector<std::size_t> chosenOrAll(const Drawing &drawing,
     return chosen;
 }
 
-Drawing openDrawing(const std::string &path) { return openFile(path).drawing; }
+void refuseOverwriting(const std::string &file, const std::string &output) {
+    std::error_code ignored;
+    if (!output.empty() && std::filesystem::equivalent(file, output, ignored))
+        throw Failure(output + ": cannot be written: it is the drawing itself");
+}
 
-DxfFile openFile(const std::string &path) {
-    DxfFile file = readDxf(path);
+Drawing openDrawing(const CommonOptions &options) { return openFile(options).drawing; }
+
+DxfFile openFile(const CommonOptions &options) {
+    refuseOverwriting(options.file, options.output);
+    DxfFile file = readDxf(options.file);
+    refuseEmpty(file.drawing);
     tell("left out", file.drawing.leftOut);
     tell("simplified", file.drawing.simplified);
     return file;
@@ -111,13 +137,13 @@ void printWithList(const Json &head, const std::string &name, std::size_t count,
     std::cout << (count > 0 ? "\n  ]\n}\n" : "]\n}\n");
 }
 
-void tellUnknown(const Crossings &crossings) { tell("pairs without an answer", crossings.unknown); }
+void tellUnknown(const Tally &pairs) { tell("pairs without an answer", pairs); }
 
 std::vector<ResultLayer> layersOf(const Crossings &crossings) {
     std::array<ResultLayer, kCrossingKindCount> byKind;
-    byKind[0].kind = ResultLayer::Kind::crossing;
-    byKind[1].kind = ResultLayer::Kind::joint;
-    byKind[2].kind = ResultLayer::Kind::overlap;
+    byKind[0].kind = ResultKind::crossing;
+    byKind[1].kind = ResultKind::joint;
+    byKind[2].kind = ResultKind::overlap;
     for (const Crossing &crossing : crossings.found)
         byKind[static_cast<std::size_t>(crossing.kind)].points.push_back(crossing.at);
     std::vector<ResultLayer> layers;

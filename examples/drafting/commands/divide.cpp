@@ -7,6 +7,7 @@
 #include "commands/common.h"
 #include "divide.h"
 #include "output_file.h"
+#include "progress.h"
 #include "text.h"
 
 namespace draft {
@@ -69,10 +70,13 @@ void printJson(const Drawing &drawing, const std::vector<Divided> &all) {
 }
 
 void run(const Options &options) {
-    const Drawing drawing = openDrawing(options.file);
-    ResultLayer layer{ResultLayer::Kind::division, "", {}, {}};
+    const Drawing drawing = openDrawing(options);
+    ResultLayer layer{ResultKind::division, "", {}, {}};
     std::vector<Divided> all;
-    for (const std::size_t index : chosenOrAll(drawing, options.entities)) {
+    const std::vector<std::size_t> chosen = chosenOrAll(drawing, options.entities);
+    Progress progress("divisions", chosen.size());
+    for (const std::size_t index : chosen) {
+        progress.add(1);
         all.push_back({index, divisionOf(drawing.entities[index].shape, options.pieces)});
         const std::vector<DTPOINT> &points = all.back().division.points;
         layer.points.insert(layer.points.end(), points.begin(), points.end());
@@ -88,14 +92,16 @@ void addDivide(CLI::App &app) {
     const auto options = std::make_shared<Options>();
     CLI::App *command =
         app.add_subcommand("divide", "Points that cut entities into pieces of equal length");
-    addFileArgument(*command, *options);
     command->add_option("-n,--pieces", options->pieces, "how many pieces of each")
         ->required()
-        ->check(CLI::Range(1, kMostPieces));
+        ->check(CLI::Range(1, kMostPieces))
+        ->option_text("N (required)");
     addEntityOption(*command, options->entities, "divide these alone");
-    addJsonFlag(*command, *options);
     addPictureOption(*command, *options);
-    command->footer("Example: draft divide machine-part.dxf --pieces 12 -e 16 -o divided.svg");
+    addCommonOptions(*command, *options);
+    command->footer("Examples:\n"
+                    "  draft divide machine-part.dxf --pieces 12\n"
+                    "  draft divide machine-part.dxf --pieces 12 -e 16 -o divided.svg");
     command->callback([options] { run(*options); });
 }
 

@@ -46,9 +46,9 @@ void printJson(const Drawing &drawing, const Crossings &crossings) {
 }
 
 void run(const CommonOptions &options) {
-    const Drawing drawing = openDrawing(options.file);
+    const Drawing drawing = openDrawing(options);
     const Crossings crossings = crossingsOf(drawing);
-    tellUnknown(crossings);
+    tellUnknown(crossings.unknown);
     if (!options.output.empty()) writeFile(options.output, svgOf(drawing, layersOf(crossings)));
     options.json ? printJson(drawing, crossings) : printTable(drawing, crossings);
 }
@@ -59,10 +59,11 @@ void addIntersect(CLI::App &app) {
     const auto options = std::make_shared<CommonOptions>();
     CLI::App *command =
         app.add_subcommand("intersect", "All pairs of entities that meet, with their points");
-    addFileArgument(*command, *options);
-    addJsonFlag(*command, *options);
     addPictureOption(*command, *options);
-    command->footer("Example: draft intersect floor-plan.dxf -o crossings.svg");
+    addCommonOptions(*command, *options);
+    command->footer("Examples:\n"
+                    "  draft intersect floor-plan.dxf -o crossings.svg\n"
+                    "  draft intersect floor-plan.dxf --json | jq '.crossings | length'");
     command->callback([options] { run(*options); });
 }
 

@@ -6,6 +6,7 @@
 #include "commands/commands.h"
 #include "commands/common.h"
 #include "measure.h"
+#include "progress.h"
 #include "text.h"
 
 namespace draft {
@@ -26,7 +27,9 @@ struct Report {
 Report reportOf(const Drawing &drawing) {
     Report report;
     report.total = {"in all", {0.0, {}}, {}};
+    Progress progress("measures", drawing.entities.size());
     for (std::size_t i = 0; i < drawing.entities.size(); ++i) {
+        progress.add(1);
         const Shape &shape = drawing.entities[i].shape;
         Row row{label(drawing, i), measureOf(shape), extentsOf(shape)};
         report.total.measure.length += row.measure.length;
@@ -107,7 +110,7 @@ void printJson(const Drawing &drawing, const Report &report) {
 }
 
 void run(const CommonOptions &options) {
-    const Drawing drawing = openDrawing(options.file);
+    const Drawing drawing = openDrawing(options);
     const Report report = reportOf(drawing);
     options.json ? printJson(drawing, report) : printTable(drawing, report);
 }
@@ -117,9 +120,10 @@ void run(const CommonOptions &options) {
 void addMeasure(CLI::App &app) {
     const auto options = std::make_shared<CommonOptions>();
     CLI::App *command = app.add_subcommand("measure", "Lengths, areas of what is closed, extents");
-    addFileArgument(*command, *options);
-    addJsonFlag(*command, *options);
-    command->footer("Example: draft measure machine-part.dxf --json | jq '.in_all'");
+    addCommonOptions(*command, *options);
+    command->footer("Examples:\n"
+                    "  draft measure machine-part.dxf\n"
+                    "  draft measure machine-part.dxf --json | jq '.in_all'");
     command->callback([options] { run(*options); });
 }
 

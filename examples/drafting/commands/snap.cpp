@@ -1,5 +1,6 @@
 // draft snap: what a person may mean who points somewhere.
 
+#include <array>
 #include <chrono>
 #include <cmath>
 #include <iostream>
@@ -25,10 +26,20 @@ struct Options : CommonOptions {
     bool timed = false;
 };
 
-double radiusFor(const Drawing &drawing, const Options &options) {
-    if (options.radius > 0.0) return options.radius;
-    const Box box = extentsOf(drawing);
-    return kDefaultShare * std::hypot(box.width(), box.height());
+struct Question {
+    DTPOINT at;
+    double radius;
+    std::optional<DTPOINT> from;
+};
+
+Question questionOf(const Drawing &drawing, const Options &options) {
+    Question question = {{options.at.front(), options.at.back()}, options.radius, {}};
+    if (!options.from.empty()) question.from = DTPOINT{options.from.front(), options.from.back()};
+    if (question.radius == 0.0) {
+        const Box box = extentsOf(drawing);
+        question.radius = kDefaultShare * std::hypot(box.width(), box.height());
+    }
+    return question;
 }
 
 void printTable(const Drawing &drawing, const std::vector<Snap> &snaps) {
@@ -66,23 +77,60 @@ void printJson(const Drawing &drawing, const std::vector<Snap> &snaps) {
     });
 }
 
+ResultKind lookOf(SnapKind kind) {
+    constexpr std::array<ResultKind, kSnapKindCount> kLooks = {
+        ResultKind::end,      ResultKind::middle,       ResultKind::center,
+        ResultKind::quadrant, ResultKind::intersection, ResultKind::perpendicular,
+        ResultKind::touch,    ResultKind::nearest};
+    return kLooks[static_cast<std::size_t>(kind)];
+}
+
+/// Where one points, and the candidates by kind; those that are offered first are on top.
+std::vector<ResultLayer> layersOf(const std::vector<Snap> &snaps, const Question &question) {
+    std::array<ResultLayer, kSnapKindCount> byKind;
+    for (const Snap &snap : snaps) {
+        ResultLayer &layer = byKind[static_cast<std::size_t>(snap.kind)];
+        layer.points.push_back(snap.at);
+        const bool isDrawn = snap.kind == SnapKind::perpendicular || snap.kind == SnapKind::tangent;
+        if (isDrawn) {
+            layer.shapes.emplace_back(
+                DTLINE{0, question.from->x, question.from->y, snap.at.x, snap.at.y});
+        }
+    }
+    const DTPOINT at = question.at;
+    std::vector<ResultLayer> layers = {{ResultKind::pointer,
+                                        "where one points",
+                                        {at},
+                                        {DTARC{0, at.x, at.y, question.radius, 0.0, 360.0}}}};
+    for (std::size_t i = kSnapKindCount; i-- > 0;) {
+        if (byKind[i].points.empty()) continue;
+        const auto kind = static_cast<SnapKind>(i);
+        byKind[i].kind = lookOf(kind);
+        byKind[i].name = nameOf(kind);
+        layers.push_back(std::move(byKind[i]));
+    }
+    return layers;
+}
+
+/// The surroundings of the candidates.
+Box viewOf(const Question &question) {
+    constexpr double kAround = 1.25;
+    const DTPOINT at = question.at;
+    const double reach = kAround * question.radius;
+    return {at.x - reach, at.y - reach, at.x + reach, at.y + reach};
+}
+
 void run(const Options &options) {
     using Clock = std::chrono::steady_clock;
-    const Drawing drawing = openDrawing(options.file);
-    const DTPOINT at = {options.at.front(), options.at.back()};
-    std::optional<DTPOINT> from;
-    if (!options.from.empty()) from = DTPOINT{options.from.front(), options.from.back()};
+    const Drawing drawing = openDrawing(options);
+    const Question question = questionOf(drawing, options);
     const Snapper snapper(drawing);
     const auto began = Clock::now();
-    const std::vector<Snap> snaps = snapper.near(at, radiusFor(drawing, options), from);
+    const std::vector<Snap> snaps = snapper.near(question.at, question.radius, question.from);
     const std::chrono::duration<double, std::milli> took = Clock::now() - began;
     if (options.timed) std::cerr << "draft: answered in " << fixed(took.count(), 3) << " ms\n";
-    if (!options.output.empty()) {
-        ResultLayer layer{ResultLayer::Kind::snap, countedAs(snaps.size(), "candidate"), {}, {}};
-        for (const Snap &snap : snaps)
-            layer.points.push_back(snap.at);
-        writeFile(options.output, svgOf(drawing, {layer}));
-    }
+    if (!options.output.empty())
+        writeFile(options.output, svgOf(drawing, layersOf(snaps, question), viewOf(question)));
     options.json ? printJson(drawing, snaps) : printTable(drawing, snaps);
 }
 
@@ -92,18 +140,23 @@ void addSnap(CLI::App &app) {
     const auto options = std::make_shared<Options>();
     CLI::App *command =
         app.add_subcommand("snap", "The points that a person may mean who points somewhere");
-    addFileArgument(*command, *options);
-    addPointOption(*command, "--at", options->at, "where one points, X,Y")->required();
+    addPointOption(*command, "--at", options->at, "where one points")
+        ->required()
+        ->option_text("X,Y (required)");
     addPointOption(*command, "--from", options->from,
-                   "a second point X,Y: perpendiculars and tangents are drawn from it");
+                   "a second point: perpendiculars and tangents are drawn from it");
     command
         ->add_option("-r,--radius", options->radius,
                      "how far around; without it 2 % of the drawing's diagonal")
-        ->check(CLI::PositiveNumber);
-    addJsonFlag(*command, *options);
+        ->check(CLI::PositiveNumber)
+        ->option_text("R");
+    addCommonOptions(*command, *options);
     addPictureOption(*command, *options);
     command->add_flag("--timed", options->timed, "tell how long the answer took, once loaded");
-    command->footer("Example: draft snap machine-part.dxf --at 61,56 --from 0,0 -r 10");
+    command->footer("Examples:\n"
+                    "  draft snap machine-part.dxf --at 61,56\n"
+                    "  draft snap machine-part.dxf --at 61,56 --from 0,0 -r 10 -o snap.svg\n"
+                    "  draft snap machine-part.dxf --at 61,56 --json | jq '.candidates[0]'");
     command->callback([options] { run(*options); });
 }
 

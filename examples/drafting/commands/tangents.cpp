@@ -7,6 +7,7 @@
 #include "commands/common.h"
 #include "failure.h"
 #include "output_file.h"
+#include "progress.h"
 #include "tangents.h"
 #include "text.h"
 
@@ -40,7 +41,9 @@ std::vector<std::size_t> curvesOf(const Drawing &drawing, const Options &options
 std::vector<Found> fromPoint(const Drawing &drawing, const std::vector<std::size_t> &curves,
                              DTPOINT point) {
     std::vector<Found> all;
+    Progress progress("tangents", curves.size());
     for (const std::size_t index : curves) {
+        progress.add(1);
         for (const Tangent &tangent : tangentsFrom(point, drawing.entities[index].shape))
             all.push_back({tangent, {}, index});
     }
@@ -49,7 +52,9 @@ std::vector<Found> fromPoint(const Drawing &drawing, const std::vector<std::size
 
 std::vector<Found> ofPairs(const Drawing &drawing, const std::vector<std::size_t> &curves) {
     std::vector<Found> all;
+    Progress progress("tangents", curves.size() * (curves.size() - 1) / 2);
     for (std::size_t i = 0; i < curves.size(); ++i) {
+        progress.add(curves.size() - i - 1);
         for (std::size_t j = i + 1; j < curves.size(); ++j) {
             const Shape &first = drawing.entities[curves[i]].shape;
             const Shape &second = drawing.entities[curves[j]].shape;
@@ -61,7 +66,7 @@ std::vector<Found> ofPairs(const Drawing &drawing, const std::vector<std::size_t
 }
 
 ResultLayer layerOf(const std::vector<Found> &all) {
-    ResultLayer layer{ResultLayer::Kind::tangent, countedAs(all.size(), "tangent"), {}, {}};
+    ResultLayer layer{ResultKind::tangent, countedAs(all.size(), "tangent"), {}, {}};
     for (const Found &found : all) {
         const Tangent &t = found.tangent;
         layer.shapes.emplace_back(DTLINE{0, t.from.x, t.from.y, t.to.x, t.to.y});
@@ -112,11 +117,11 @@ void printJson(const Drawing &drawing, const std::vector<Found> &all) {
 }
 
 void run(const Options &options) {
-    const Drawing drawing = openDrawing(options.file);
     if (options.from.empty() && options.entities.size() < 2) {
-        throw Failure("tangents are drawn from a point (--from X,Y) or between two or more curves "
-                      "(-e 3,7)");
+        throw CLI::ValidationError(
+            "tangents are drawn from a point (--from X,Y) or between two or more curves (-e 3,7)");
     }
+    const Drawing drawing = openDrawing(options);
     const std::vector<std::size_t> curves = curvesOf(drawing, options);
     const std::vector<Found> all =
         options.from.empty()
@@ -132,13 +137,14 @@ void addTangents(CLI::App &app) {
     const auto options = std::make_shared<Options>();
     CLI::App *command =
         app.add_subcommand("tangents", "Tangents from a point, or common to chosen curves");
-    addFileArgument(*command, *options);
-    addPointOption(*command, "--from", options->from, "draw them from this point, X,Y");
+    addPointOption(*command, "--from", options->from, "draw them from this point");
     addEntityOption(*command, options->entities, "draw them to these curves alone");
-    addJsonFlag(*command, *options);
     addPictureOption(*command, *options);
-    command->footer("Examples: draft tangents machine-part.dxf --from 200,0 -o tangents.svg\n"
-                    "          draft tangents machine-part.dxf -e 9,31,32 -o belts.svg");
+    addCommonOptions(*command, *options);
+    command->footer("Without a point the tangents common to each two of the chosen curves.\n"
+                    "Examples:\n"
+                    "  draft tangents machine-part.dxf --from 200,0 -o tangents.svg\n"
+                    "  draft tangents machine-part.dxf -e 9,31,32 -o belts.svg");
     command->callback([options] { run(*options); });
 }
 
