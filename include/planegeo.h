@@ -1384,13 +1384,16 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_AreaElp(double deg, double *value);
  * the axes are too unlike for it.
  *
  * @param[in]  integrand called at the lower limit, at the upper limit, then at all
- *                       interior points of each pass in rising order; the library
- *                       may evaluate its own integrands by other means
+ *                       interior points of each pass in rising order, up to 2000
+ *                       times per degree of the range; the library may evaluate its
+ *                       own integrands by other means
  * @param[in]  lower,upper degrees
  * @param[out] result    the integral; 0 unless the return value is 0
  * @return 0 done; -1 lower exceeds upper (nothing is called); -2 not settled when
  *         the interval count would pass 2^31 - 1: a range above 2^30 degrees, an
- *         infinite or a NaN limit get there at once; else the integrand's code
+ *         infinite or a NaN limit get there at once, and with the library's own
+ *         integrands a range above 36000 degrees, or above 1440 where one half axis
+ *         exceeds four times the other; else the integrand's code
  * @see ca_Simpson2 for the inverse, ca_ElpLen for an elliptic arc
  */
 PLANEGEO_API int32_t PLANEGEO_CALL ca_Simpson(PLANEGEO_INTEGRAND integrand, double lower,
@@ -1537,9 +1540,9 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_elip1(const DTPOINT *center, double a, dou
  * @param[in,out] count room in arcs, 0 to ask for the number (the arrays may then be null);
  *                     the number of arcs, also when the result is -2; 0 for -1 and -3
  * @return 0 done; -1 when an axis is not above errdist, @p tol not above 0 or a number not
- *         finite; -2 when there are more arcs than room; -3 when they are more than 65535,
- *         or @p tol or half the shorter axis is below 4e-15 of the largest radius of
- *         curvature
+ *         finite; -2 when there are more arcs than room; -3 when a quadrant takes more than
+ *         512 arcs, or @p tol or half the shorter axis is below 4e-15 of the largest
+ *         radius of curvature
  * @see ca_elip1 for a chain of five arcs at most
  */
 PLANEGEO_API int32_t PLANEGEO_CALL ca_elip2(const DTPOINT *center, double a, double b, double rot,
@@ -1573,10 +1576,10 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_elip2(const DTPOINT *center, double a, dou
  * @param[in]  n,k    number of pieces and of the point, 1 <= k <= n
  * @param[out] out    the point
  * @param[out] len    length of a piece
- * @return 0 done; 1 k exceeds n or is below 1, or no memory, or n above 2^22; -1
+ * @return 0 done; 1 k exceeds n or is below 1, or no memory, or n above 2^20; -1
  *         start exceeds end (at every call); outputs are untouched in these cases.
  *         -2 from the call that measures: the length does not settle, or the span
- *         exceeds 36000 degrees; the length is 0 and every point the end
+ *         exceeds 1080 degrees; the length is 0 and every point the end
  * @see ca_elpdn, which is coarser and keeps nothing
  */
 PLANEGEO_API int32_t PLANEGEO_CALL a2d_elpdn(const DTPOINT *center, double a, double b, double rot,

@@ -147,6 +147,19 @@ TEST(Simpson, knownIntegrals) {
     EXPECT_NEAR(result, swept(40.0) - swept(-20.0), 1e-6);
 }
 
+TEST(Simpson, ownIntegrandsHaveALongestRange) {
+    double result;
+    for (const PLANEGEO_INTEGRAND own : {ca_lengelp, ca_AreaElp}) {
+        const HalfAxes round(4.0, 1.0);
+        EXPECT_EQ(ca_Simpson(own, 0.0, 36000.0, &result), 0);
+        EXPECT_EQ(ca_Simpson(own, 0.0, 36001.0, &result), -2);
+        const HalfAxes thin(1.0, 4.1);
+        EXPECT_EQ(ca_Simpson(own, 0.0, 1440.0, &result), 0);
+        EXPECT_EQ(ca_Simpson(own, 0.0, 1441.0, &result), -2);
+        EXPECT_EQ(result, 0.0);
+    }
+}
+
 struct SearchCase {
     const char *about;
     double lo, hi, wanted;

@@ -20,11 +20,16 @@ struct HalfAxes {
         const double aa = first * first, bb = second * second;
         return aa * bb * 0.5 / (bb * (c * c) + aa * (s * s));
     }
-    /// Stores them in the parameter table.
+    /// Stores them in the parameter table; the fixture takes them out.
     void store() const {
         ca_Simpson_getParmtbl()[0] = first;
         ca_Simpson_getParmtbl()[1] = second;
     }
+};
+
+class PlainAgreement : public ::testing::Test {
+  protected:
+    ~PlainAgreement() override { HalfAxes{0.0, 0.0}.store(); }
 };
 
 /// Axes of any size; most of them round, some thin, flat, negative or equal.
@@ -82,7 +87,7 @@ Result integrated(PLANEGEO_INTEGRAND integrand, Range r) {
     return result;
 }
 
-TEST(PlainAgreement, lengthsAndAreas) {
+TEST_F(PlainAgreement, lengthsAndAreas) {
     Random random(7001);
     for (int i = 0; i < 1500; ++i) {
         const HalfAxes half = axes(random, i % 50 == 0 ? 1e6 : 6.0);
@@ -106,7 +111,7 @@ TEST(PlainAgreement, lengthsAndAreas) {
 
 /// Sizes the ellipse so that its second pass differs from the first by almost exactly the 1e-6
 /// that settle it. There the passes decide by their rounding, which only the samples have.
-TEST(PlainAgreement, wherePassesBarelySettle) {
+TEST_F(PlainAgreement, wherePassesBarelySettle) {
     Random random(7002);
     for (int i = 0; i < 400; ++i) {
         const double ratio = random.logUniform(1.3, 4.0), lo = random.angleDeg();
@@ -127,7 +132,7 @@ TEST(PlainAgreement, wherePassesBarelySettle) {
     }
 }
 
-TEST(PlainAgreement, whereAFirstSumIsBarelyAccepted) {
+TEST_F(PlainAgreement, whereAFirstSumIsBarelyAccepted) {
     Random random(7003);
     for (int i = 0; i < 400; ++i) {
         const double ratio = random.logUniform(1.0, 4.0), size = random.logUniform(1e-9, 1e-5);
@@ -141,11 +146,11 @@ TEST(PlainAgreement, whereAFirstSumIsBarelyAccepted) {
 }
 
 /// A search over the library's integrand moves exactly as one over its samples.
-TEST(PlainAgreement, searches) {
+TEST_F(PlainAgreement, searches) {
     Random random(7004);
     for (int i = 0; i < 300; ++i) {
         const double a = random.logUniform(0.01, 1e4);
-        const HalfAxes half = {a, a * random.logUniform(0.2, 5.0)};
+        const HalfAxes half = {a, a * (i % 60 == 7 ? 1e-3 : random.logUniform(0.2, 5.0))};
         half.store();
         const double start = random.uniform(-100, 300);
         DTELLIPSE got = {0, 3, 4, 1, 1, start, start + random.uniform(1, 360), 30};
@@ -173,7 +178,7 @@ int32_t hostsSpeed(double deg, double *value) {
     return ca_lengelp(deg, value);
 }
 
-TEST(PlainAgreement, aHostsIntegrandIsSampled) {
+TEST_F(PlainAgreement, aHostsIntegrandIsSampled) {
     Random random(7005);
     for (int i = 0; i < 200; ++i) {
         const HalfAxes half = axes(random, 6.0);
@@ -190,7 +195,7 @@ TEST(PlainAgreement, aHostsIntegrandIsSampled) {
 
 /// The tables of a2d_elpdn: every entry is that of the plain walk, unless the walk's own quotient
 /// there is a whole number to within its rounding (half an ulp for each of its additions).
-TEST(PlainAgreement, divisionTables) {
+TEST_F(PlainAgreement, divisionTables) {
     Random random(7006);
     for (int i = 0; i < 120; ++i) {
         const HalfAxes half = axes(random, i % 5 == 0 ? 1e3 : 8.0);
@@ -223,7 +228,7 @@ TEST(PlainAgreement, divisionTables) {
 }
 
 /// Samples are found by adding degree after degree, and one more or less changes every piece.
-TEST(PlainAgreement, samplesOfAPolyline) {
+TEST_F(PlainAgreement, samplesOfAPolyline) {
     std::vector<Range> ranges = {{-100.0, -1e-20}, {1e5 + 0.1, 1e5 + 60.1}, {30.5, 390.5}};
     Random random(7008);
     for (int i = 0; i < 300; ++i) {
@@ -241,7 +246,7 @@ TEST(PlainAgreement, samplesOfAPolyline) {
     }
 }
 
-TEST(PlainAgreement, polylines) {
+TEST_F(PlainAgreement, polylines) {
     Random random(7007);
     for (int i = 0; i < 4000; ++i) {
         const HalfAxes half = axes(random, i % 10 == 0 ? 1e3 : 5.0);

@@ -16,7 +16,8 @@ namespace {
 
 using namespace planegeo;
 
-constexpr int kMostArcs = 65535;
+/// Of a piece; finer chains take more than some hundredths of a second.
+constexpr int kMostArcs = 512;
 constexpr double kEpsilon = 0x1p-52;
 
 /// A stretch of one quadrant, with its chain.
@@ -87,13 +88,13 @@ struct Task {
     Quadrant quadrant;
     double tolerance;
 
-    std::optional<ChainFit> fit(const Stretch &stretch, int mostArcs = kMostArcs) const {
-        return fitChain(quadrant, stretch, tolerance, mostArcs);
+    std::optional<ChainFit> fit(const Stretch &stretch) const {
+        return fitChain(quadrant, stretch, tolerance, kMostArcs);
     }
 };
 
 /// Fits a piece to go on with the circle of its neighbour, or on its own where that allows no
-/// chain. False when neither can be counted.
+/// chain. False when it takes too many arcs.
 bool fitBeside(const Task &task, const Piece &neighbour, Piece &piece, bool &goesOn) {
     const Stretch shared = besideNeighbour(task.quadrant, piece, neighbour);
     const auto goingOn = task.fit(shared);
@@ -105,10 +106,9 @@ bool fitBeside(const Task &task, const Piece &neighbour, Piece &piece, bool &goe
 }
 
 /// Fits the leading piece, with all that are whole quadrants like it, and then the others beside
-/// them. Nothing when more arcs are needed than can be counted.
+/// them. Nothing when one takes too many arcs.
 std::optional<Pieces> fitFrom(std::size_t leading, const Task &task, Pieces pieces) {
-    const int share = kMostArcs / std::max(1, static_cast<int>(pieces.count));
-    const auto lead = task.fit(pieces.at[leading].stretch, share);
+    const auto lead = task.fit(pieces.at[leading].stretch);
     if (!lead) return std::nullopt;
     pieces.at[leading].fit = *lead;
     for (std::size_t i = 0; i < pieces.count; ++i) {
@@ -122,7 +122,7 @@ std::optional<Pieces> fitFrom(std::size_t leading, const Task &task, Pieces piec
         bool &goesOn = pieces.at[std::max(i, neighbour)].goesOn;
         if (!fitBeside(task, pieces.at[neighbour], pieces.at[i], goesOn)) return std::nullopt;
     }
-    return pieces.arcs() <= kMostArcs ? std::optional(pieces) : std::nullopt;
+    return pieces;
 }
 
 /// A whole quadrant leads. Around a single end of an axis either side may, for the fewer arcs.

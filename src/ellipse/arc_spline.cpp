@@ -128,7 +128,8 @@ std::optional<ChainFit> fitChain(const Quadrant &quadrant, const Stretch &stretc
     if (const auto axisCircle = fitAxisCircle(quadrant, stretch, tolerance)) return axisCircle;
     // Every circle about the centre between the axes is within a - b.
     const double widest = std::fmin(tolerance, quadrant.a - quadrant.b);
-    const auto count = countCircles(ChainBuilder(quadrant, stretch, widest), mostArcs);
+    const int flatArc = stretch.endsAtAxis() ? 1 : 0;
+    const auto count = countCircles(ChainBuilder(quadrant, stretch, widest), mostArcs - flatArc);
     if (!count) return std::nullopt;
     const int circles = count->circles;
     // The reach is nearly linear in the cube root of the distance.
@@ -146,7 +147,7 @@ std::optional<ChainFit> fitChain(const Quadrant &quadrant, const Stretch &stretc
     }
     const double largestRadius = quadrant.a * quadrant.a / quadrant.b;
     const double root = rootBetween(reach, low, high, {2.0 * kEpsilon * largestRadius, kEpsilon});
-    return ChainFit{cube(root), circles + (stretch.endsAtAxis() ? 1 : 0)};
+    return ChainFit{cube(root), circles + flatArc};
 }
 
 ChainWalk::ChainWalk(const Quadrant &quadrant, const Stretch &stretch, const ChainFit &fit)

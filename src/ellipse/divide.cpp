@@ -6,6 +6,7 @@
 
 #include "ellipse/cosine_series.h"
 #include "ellipse/frame.h"
+#include "ellipse/grid_sum.h"
 #include "ellipse/running_length.h"
 #include "ellipse/simpson.h"
 #include "ellipse/speed.h"
@@ -22,12 +23,12 @@ constexpr std::int32_t kOutOfIntervals = -2;
 
 /// The largest interval count that is still refined.
 constexpr std::int64_t kLongestPass = 2147483647;
-/// A span above it, a hundred turns, is out of intervals without a walk.
-constexpr double kLongestSpanDeg = 36000.0;
+/// A span above it, three turns, is out of intervals without a walk.
+constexpr double kLongestSpanDeg = 1080.0;
 /// Steps of the running sum in a piece, on average, from which on they are not walked.
 constexpr std::int64_t kStepsPerPiece = 64;
 /// A table of more entries counts as one that cannot be allocated.
-constexpr std::int32_t kMostPieces = 1 << 22;
+constexpr std::int32_t kMostPieces = 1 << 20;
 
 struct Arc {
     Vec2 center;
@@ -103,14 +104,10 @@ bool noteBySeries(const ArcSpeed &speed, const CosineSeries &series, const Steps
     return true;
 }
 
-Integral lengthOf(const Arc &arc, const ArcSpeed &speed, const CosineSeries &series) {
+Integral lengthOf(const Arc &arc, const CosineSeries &series) {
     const Integral summed = series.integral(arc.start, arc.end, kLongestPass);
     if (summed.outcome != Refinement::undecided) return summed;
-    const auto sample = [&speed](double deg, double &value) {
-        value = speed(deg);
-        return 0;
-    };
-    return sampledIntegral(sample, arc.start, arc.end, kLongestPass);
+    return GridSum(EllipseSpeed::arc, arc.a * 0.5, arc.b * 0.5).integral(arc.start, arc.end);
 }
 
 /// Divides an arc whose start is not above its end. Returns the code.
@@ -122,7 +119,7 @@ std::int32_t divide(Division &division) {
 
     const ArcSpeed speed = ArcSpeed::of(arc.a * 0.5, arc.b * 0.5);
     const CosineSeries series = CosineSeries::ofArcSpeed(arc.a * 0.5, arc.b * 0.5);
-    const Integral length = lengthOf(arc, speed, series);
+    const Integral length = lengthOf(arc, series);
     division.piece = length.value / division.n;
     if (division.piece > 0.0 && std::isfinite(division.piece)) {
         const std::int64_t count = evenIntervals(span / kSmallestStepDeg);

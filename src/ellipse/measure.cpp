@@ -4,10 +4,12 @@
 // from the process-wide table. Refinement settles at kSettledIntegral, an absolute difference.
 
 #include <limits>
+#include <optional>
 
 #include "base/settings.h"
 #include "ellipse/convert.h"
 #include "ellipse/cosine_series.h"
+#include "ellipse/grid_sum.h"
 #include "ellipse/simpson.h"
 #include "ellipse/speed.h"
 #include "planegeo.h"
@@ -49,15 +51,6 @@ Integral sampled(PLANEGEO_INTEGRAND integrand, double lo, double hi) {
     return sampledIntegral(sample, lo, hi, kLongestPass);
 }
 
-/// The series of an integrand that is one of the library's, whose samples nobody can count.
-CosineSeries seriesOf(PLANEGEO_INTEGRAND integrand) {
-    if (integrand == arcSpeed || integrand == ca_lengelp) {
-        return CosineSeries::ofArcSpeed(halfFirst(), halfSecond());
-    }
-    if (integrand == ca_AreaElp) return CosineSeries::ofSectorSpeed(halfFirst(), halfSecond());
-    return {};
-}
-
 /// What an integrand does not exceed; infinite for a host's own.
 double highestOf(PLANEGEO_INTEGRAND integrand) {
     const double longer = std::fmax(std::fabs(halfFirst()), std::fabs(halfSecond()));
@@ -79,22 +72,36 @@ struct Measured {
     Integral integral;
 };
 
-/// Integrals over ranges: by the series of the integrand at first, over samples on demand.
-struct Measurer {
-    PLANEGEO_INTEGRAND integrand;
-    CosineSeries series;
+/// Integrals over ranges: those of a host's integrand over samples; those of the library's own,
+/// whose samples nobody can count, by its series at first and on demand by sums that decide.
+class Measurer {
+  public:
+    explicit Measurer(PLANEGEO_INTEGRAND integrand) : integrand_(integrand) {
+        if (integrand == arcSpeed || integrand == ca_lengelp) {
+            series_ = CosineSeries::ofArcSpeed(halfFirst(), halfSecond());
+            sum_.emplace(EllipseSpeed::arc, halfFirst(), halfSecond());
+        } else if (integrand == ca_AreaElp) {
+            series_ = CosineSeries::ofSectorSpeed(halfFirst(), halfSecond());
+            sum_.emplace(EllipseSpeed::sector, halfFirst(), halfSecond());
+        }
+    }
 
     Measured operator()(double lo, double hi) const {
-        const Integral summed = series.integral(lo, hi, kLongestPass);
+        if (!sum_) return {lo, hi, sampled(integrand_, lo, hi)};
+        if (!sum_->takes(hi - lo)) return {lo, hi, {Refinement::outOfIntervals}};
+        const Integral summed = series_.integral(lo, hi, kLongestPass);
         if (summed.outcome != Refinement::undecided) return {lo, hi, summed};
-        return {lo, hi, sampled(integrand, lo, hi)};
+        return {lo, hi, sum_->integral(lo, hi)};
     }
     void makeCertain(Measured &m) const {
-        if (m.integral.uncertainty > 0.0) m.integral = sampled(integrand, m.lo, m.hi);
+        if (m.integral.uncertainty > 0.0) m.integral = sum_->integral(m.lo, m.hi);
     }
-};
 
-Measurer measurerOf(PLANEGEO_INTEGRAND integrand) { return {integrand, seriesOf(integrand)}; }
+  private:
+    PLANEGEO_INTEGRAND integrand_;
+    CosineSeries series_;
+    std::optional<GridSum> sum_;
+};
 
 /// What the search sees in the integral over its range and that over the range before.
 struct Progress {
@@ -158,7 +165,7 @@ FoundLimit searchLimit(PLANEGEO_INTEGRAND integrand, double lo, double hi, doubl
                        bool movesLower) {
     const double farthest = std::fabs(hi - lo) + kFarthestStretchDeg;
     if (wanted > highestOf(integrand) * farthest) return {false, kGaveUp, 0.0}; // 57 times over
-    return searchLimit(measurerOf(integrand), lo, hi, wanted, movesLower);
+    return searchLimit(Measurer(integrand), lo, hi, wanted, movesLower);
 }
 
 struct Range {
@@ -191,7 +198,7 @@ int32_t ca_AreaElp(double deg, double *value) { return sectorSpeed(deg, value); 
 int32_t ca_Simpson(PLANEGEO_INTEGRAND integrand, double lower, double upper, double *result) {
     *result = 0.0;
     if (lower > upper) return kReversedLimits;
-    const Integral found = measurerOf(integrand)(lower, upper).integral;
+    const Integral found = Measurer(integrand)(lower, upper).integral;
     if (found.outcome == Refinement::refused) return found.code;
     if (found.outcome == Refinement::outOfIntervals) return kOutOfIntervals;
     *result = found.value;
@@ -211,7 +218,7 @@ int32_t ca_ElpLen(const DTELLIPSE *ellipse, double *length) {
         return polarOfParameter(ellipse->a, ellipse->b, parameterDeg);
     };
     const Range range = measuredRange({polar(ellipse->start), polar(ellipse->end)});
-    *length = measurerOf(arcSpeed)(range.start, range.end).integral.value;
+    *length = Measurer(arcSpeed)(range.start, range.end).integral.value;
     return 0;
 }
 
