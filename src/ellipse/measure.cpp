@@ -29,6 +29,8 @@ constexpr std::int64_t kLongestPass = 1073741823;
 /// kFarthestStretchDeg.
 constexpr std::int64_t kMostSearchSamples = std::int64_t{1} << 28;
 constexpr double kFarthestStretchDeg = 36000.0;
+/// Whole turns are taken off a limit of the library's own integrands that lies farther.
+constexpr double kFarLimitDeg = 36000.0;
 constexpr double kFirstSearchStepDeg = 10.0;
 constexpr int kMostStalls = 10;
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
@@ -88,7 +90,12 @@ class Measurer {
 
     Measured operator()(double lo, double hi) const {
         if (!sum_) return {lo, hi, sampled(integrand_, lo, hi)};
-        if (!sum_->takes(hi - lo)) return {lo, hi, {Refinement::outOfIntervals}};
+        const double span = hi - lo;
+        if (!sum_->takes(span)) return {lo, hi, {Refinement::outOfIntervals}};
+        if (std::fabs(lo) > kFarLimitDeg) {
+            lo = std::fmod(lo, 360.0);
+            hi = lo + span;
+        }
         const Integral summed = series_.integral(lo, hi, kLongestPass);
         if (summed.outcome != Refinement::undecided) return {lo, hi, summed};
         return {lo, hi, sum_->integral(lo, hi)};
