@@ -1579,7 +1579,7 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_elip2(const DTPOINT *center, double a, dou
  * @return 0 done; 1 k exceeds n or is below 1, or no memory, or n above 2^20; -1
  *         start exceeds end (at every call); outputs are untouched in these cases.
  *         -2 from the call that measures: the length does not settle, or the span
- *         exceeds 1080 degrees; the length is 0 and every point the end
+ *         exceeds 1440 degrees; the length is 0 and every point the end
  * @see ca_elpdn, which is coarser and keeps nothing
  */
 PLANEGEO_API int32_t PLANEGEO_CALL a2d_elpdn(const DTPOINT *center, double a, double b, double rot,

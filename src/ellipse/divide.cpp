@@ -23,8 +23,8 @@ constexpr std::int32_t kOutOfIntervals = -2;
 
 /// The largest interval count that is still refined.
 constexpr std::int64_t kLongestPass = 2147483647;
-/// A span above it, three turns, is out of intervals without a walk.
-constexpr double kLongestSpanDeg = 1080.0;
+/// A span above it, four turns, is out of intervals without a walk.
+constexpr double kLongestSpanDeg = 1440.0;
 /// Steps of the running sum in a piece, on average, from which on they are not walked.
 constexpr std::int64_t kStepsPerPiece = 64;
 /// A table of more entries counts as one that cannot be allocated.
