@@ -109,7 +109,9 @@ TEST(PointTangentsOfEllipse, codesAndOutputsWithoutContacts) {
 TEST(PointTangentsOfEllipse, alongAnAxisTheContactIsTheOthersEnd) {
     const Ellipse e = {{7, -3}, 10, 6, 30};
     EXPECT_TRUE(near(ask(a2d_tchpe, e, e.pole(90 + 1e-8, 170)).out1, e.at(90), 50 * kEpsilon));
+    EXPECT_TRUE(near(ask(a2d_tchpe, e, e.pole(-90 - 1e-8, 170)).out2, e.at(-90), 50 * kEpsilon));
     EXPECT_TRUE(near(ask(a2d_tchpe, e, e.pole(-80, 1e-8)).out2, e.at(0), 50 * kEpsilon));
+    EXPECT_TRUE(near(ask(a2d_tchpe, e, e.pole(100, 180 + 1e-8)).out2, e.at(180), 50 * kEpsilon));
 }
 
 /// Squares against 1e-8: beside the first axis y^2 of the contacts, elsewhere a discriminant of

@@ -45,6 +45,7 @@ struct Differences {
     long doubles = 0;   ///< doubles compared: those of calls with equal integers
     long bits = 0;      ///< of them, not equal bit by bit
     long ofSize = 0;    ///< beyond kBound of the inputs' size and the value
+    long turns = 0;     ///< equal but for a whole turn: 0 and 360 degrees
     long ofValue = 0;   ///< beyond kBound of the value alone
     double worst = 0.0; ///< the largest difference over the size
 };
@@ -84,6 +85,10 @@ void compareDoubles(double a, double b, double size, Differences &row) {
     ++row.bits;
     const double apart = std::fabs(a - b), value = std::fmax(std::fabs(a), std::fabs(b));
     if (!(apart <= kBound * value)) ++row.ofValue;
+    if (std::fabs(apart - 360.0) <= kBound * std::fmax(value, size)) {
+        ++row.turns;
+        return;
+    }
     const double over = apart / std::fmax(value, size);
     if (!(over <= kBound)) ++row.ofSize;
     row.worst = std::isnan(over) ? HUGE_VAL : std::fmax(row.worst, over);
@@ -126,6 +131,7 @@ int compare(const char *first, const char *second) {
         all.doubles += row.doubles;
         all.bits += row.bits;
         (jumps(name) ? jumped : all.ofSize) += row.ofSize;
+        jumped += row.turns;
         all.ofValue += row.ofValue;
     }
     std::printf(
