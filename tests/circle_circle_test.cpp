@@ -105,6 +105,11 @@ TEST(CrossArcs, meetsOneCircleOnlyAtSharedEnds) {
     }
     expectArcs("radii 2e-6 apart", {{0, 0}, 2, {0, 90}}, {{0, 0}, 2 + 2e-6, {90, 180}}, 0, {},
                Without::untouched);
+    const ToleranceGuard exact(0.5);
+    expectArcs("errdist itself is too far", {{0, 0}, 99, {0, 90}}, {{0, 0}, 99, {90.5, 180}}, 0, {},
+               Without::untouched);
+    expectArcs("also from a whole turn", {{0, 0}, 99, {0, 90}}, {{0, 0}, 99, {180, 359.5}}, 0, {},
+               Without::untouched);
 }
 
 TEST(CrossArcs, keepsThePointsOnBothRanges) {

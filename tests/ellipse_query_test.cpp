@@ -34,6 +34,8 @@ TEST(Foci, areTakenFromTheLengthsAsPassed) {
     EXPECT_EQ(GetElpFocusPnt(&kCenter, -5, 3, 0, &f, &g), -1);
     EXPECT_EQ(f, kUntouchedPoint);
     EXPECT_EQ(g, kUntouchedPoint);
+    EXPECT_EQ(GetElpFocusPnt(&kCenter, -0.4e-6, 0, 0, &f, &g), 0) << "c - a is 0.8e-6";
+    EXPECT_EQ(GetElpFocusPnt(&kCenter, -0.6e-6, 0, 0, &f, &g), -1);
 }
 
 TEST(TangentOnEllipse, pointsAnticlockwise) {

@@ -11,6 +11,7 @@
 #include <fstream>
 #include <iostream>
 #include <map>
+#include <set>
 #include <sstream>
 #include <string>
 #include <tuple>
@@ -54,7 +55,11 @@ constexpr double kBound = 1e-12;
 
 /// Rows whose answer jumps where two numbers are equal, as they are on a grid, so that the last bit
 /// of a sine decides (docs/platforms.md).
-bool jumps(const std::string &name) { return name == "aatCalCrs2l" || name == "ca_elpdn"; }
+bool jumps(const std::string &name) {
+    static const std::set<std::string> rows = {"aatCalCrs2l", "ca_elpdn", "ang_pnt", "ca_elamn",
+                                               "ca_elpmn"};
+    return rows.count(name) > 0;
+}
 
 double doubleOf(const std::string &token) {
     const std::uint64_t bits = std::strtoull(token.c_str() + 1, nullptr, 16);
@@ -85,11 +90,11 @@ void compareDoubles(double a, double b, double size, Differences &row) {
     ++row.bits;
     const double apart = std::fabs(a - b), value = std::fmax(std::fabs(a), std::fabs(b));
     if (!(apart <= kBound * value)) ++row.ofValue;
-    if (std::fabs(apart - 360.0) <= kBound * std::fmax(value, size)) {
+    const double over = apart / std::fmax(value, size);
+    if (over > kBound && std::fabs(apart - 360.0) <= kBound * size) {
         ++row.turns;
         return;
     }
-    const double over = apart / std::fmax(value, size);
     if (!(over <= kBound)) ++row.ofSize;
     row.worst = std::isnan(over) ? HUGE_VAL : std::fmax(row.worst, over);
 }
