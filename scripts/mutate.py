@@ -50,8 +50,8 @@ SWAPS = [
     ("order", r"\b(halfFirst)\b", "halfSecond"), ("order", r"\b(halfSecond)\b", "halfFirst"),
     ("order", r" (\*) ", "/"), ("order", r" (/) ", "*"),
 ]
-NUMBER = re.compile(r"(?<![\w.\"'])(\d+\.\d*(?:e[+-]?\d+)?|\d+)(?![\w.\"'])")
-TOLERANCE = re.compile(r"constexpr double (k\w+) = (?!2 \*)(.+);$")
+NUMBER = re.compile(r"(?<![\w.\"'\[])(\d+\.\d*(?:e[+-]?\d+)?|\d+)(?![\w.\"'>])")
+TOLERANCE = re.compile(r"constexpr double (k\w+) = ([-\d].*);$")
 
 
 class Mutant:
