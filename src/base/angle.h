@@ -18,6 +18,38 @@ inline double directionDeg(Vec2 v) {
     return deg < 0.0 ? deg + 360.0 : deg;
 }
 
+/// How far a coarse direction may be from directionDeg().
+inline constexpr double kCoarseDeg = 0.001;
+
+/// directionDeg(v) to within kCoarseDeg, where it is not that near to 0; for tests that it decides
+/// without an arc tangent. NaN where the vector is zero or not finite.
+///
+/// The polynomial is that of least error for the arc tangent between 0 and 1, 0.00066 degrees.
+inline double coarseDirectionDeg(Vec2 v) {
+    const double x = std::fabs(v.x), y = std::fabs(v.y);
+    const bool isSteep = y > x;
+    const double t = isSteep ? x / y : y / x;
+    const double t2 = t * t;
+    double deg = 1.1943370668087245;
+    deg = deg * t2 - 4.8790995050316175;
+    deg = deg * t2 + 10.32236722620474;
+    deg = deg * t2 - 18.925070163539644;
+    deg = (deg * t2 + 57.28812075571435) * t;
+    if (isSteep) deg = 90.0 - deg;
+    if (v.x < 0.0) deg = 180.0 - deg;
+    return v.y < 0.0 ? 360.0 - deg : deg;
+}
+
+/// Whether a coarse direction is on the same side of an angle as the exact one.
+inline bool isClearOf(double coarseDeg, double deg) {
+    return std::fabs(coarseDeg - deg) > 2.0 * kCoarseDeg;
+}
+
+/// Whether it is clear of the ray where directions begin and end.
+inline bool isClearOfZero(double coarseDeg) {
+    return isClearOf(coarseDeg, 0.0) && isClearOf(coarseDeg, 360.0);
+}
+
 /// Direction of a vector in radians, [0, 2 pi]; a component below kAxisSnapLength counts as zero.
 double snappedDirectionRad(Vec2 v);
 
@@ -71,6 +103,9 @@ struct AngleRange {
     static Normalised normalised(double start, double end);
 
     /// Whether a normalised range holds an angle, both ends with kAngleSlackDeg.
+    /// A normalised range that lacks less than kAngleSlackDeg of a turn holds every angle.
+    bool isWholeTurn() const { return end - start > 360.0 - kAngleSlackDeg; }
+
     bool contains(double angle) const {
         // At the wrap edge (a start just below 360, an end at 0) hardly anything is left of
         // the range; on purpose it then accepts every angle.
@@ -81,6 +116,18 @@ struct AngleRange {
         if (angle > last) angle -= 360.0;
         if (first > angle) angle += 360.0;
         return !(angle > last); // a NaN passes
+    }
+
+    /// contains(directionDeg(v)) of a normalised range.
+    bool containsDirection(Vec2 v) const {
+        if (isWholeTurn()) return true;
+        const double coarse = coarseDirectionDeg(v);
+        const double lowered = coarse > end ? coarse - 360.0 : coarse;
+        if (isClearOfZero(coarse) && isClearOf(coarse, end) && isClearOf(lowered, start) &&
+            end - start > kAngleSlackDeg) {
+            return start < lowered;
+        }
+        return contains(directionDeg(v));
     }
 };
 
@@ -103,6 +150,24 @@ inline AngleRange::Normalised AngleRange::normalised(double start, double end) {
         end -= 360.0;
     }
     return {{start, end}, equal};
+}
+
+/// Whether `holds` takes the direction of a vector less a rotation, by snappedDirectionRad(). The
+/// coarse direction decides where it is clear of every angle at which the answer changes, give or
+/// take whole turns: the ends of the range, and those of a turn.
+template <class Holds>
+bool holdsSnappedDirection(Vec2 v, double rotationDeg, AngleRange range, Holds holds) {
+    const double coarse = coarseDirectionDeg(v) - rotationDeg;
+    const auto isClear = [coarse](double deg) {
+        const double apart = std::fabs(coarse - deg);
+        return isClearOf(apart, 0.0) && isClearOf(apart, 360.0) && isClearOf(apart, 720.0) &&
+               apart < 1079.0;
+    };
+    const bool isSnapped = std::fabs(v.x) < kAxisSnapLength || std::fabs(v.y) < kAxisSnapLength;
+    if (!isSnapped && isClear(0.0) && isClear(range.start) && isClear(range.end)) {
+        return holds(coarse);
+    }
+    return holds(snappedDirectionRad(v) * kDegPerRad - rotationDeg);
 }
 
 /// Whether an arc given by any two angles holds a third.

@@ -50,6 +50,24 @@ inline bool isShorterThan(Vec2 v, double limit) {
     return std::fabs(v.x) < limit && std::fabs(v.y) < limit && hypotLength(v) < limit;
 }
 
+/// hypotLength(v) <= limit, likewise.
+inline bool isNotLongerThan(Vec2 v, double limit) {
+    return !(std::fabs(v.x) > limit) && !(std::fabs(v.y) > limit) && hypotLength(v) <= limit;
+}
+
+/// magnitude / hypotLength(v) < limit. The length lies between the longer component and 1.5 times
+/// that, which mostly decides without the root.
+inline bool isQuotientBelow(double magnitude, Vec2 v, double limit) {
+    constexpr double kFarFromOverflow = 0x1p1000;
+    const double x = std::fabs(v.x), y = std::fabs(v.y);
+    const double longer = x > y ? x : y;
+    if (longer < kFarFromOverflow) {
+        if (magnitude > 2.0 * limit * longer) return false;
+        if (magnitude < 0.5 * limit * longer) return true;
+    }
+    return magnitude / hypotLength(v) < limit;
+}
+
 /// Both components are below the limit: the box test by which several questions ask
 /// whether two points coincide.
 inline bool isWithinBox(Vec2 v, double limit) {

@@ -69,10 +69,16 @@ AngleRange raised(AngleRange range) { return {raised(range.start), raised(range.
 /// The filter of arc with arc, apart from AngleRange on purpose: its slack is far wider and
 /// does not reach back across 0, and a direction at the very start takes another turn.
 bool isOnArcWithWideSlack(const Arc &arc, Vec2 point) {
-    double deg = directionDeg(point - arc.circle.center);
     const double first = arc.range.start - kArcArcSlackDeg;
     double last = arc.range.end + kArcArcSlackDeg;
     if (first > last) last += 360.0;
+    const Vec2 fromCenter = point - arc.circle.center;
+    const double coarse = coarseDirectionDeg(fromCenter);
+    const double turned = first >= coarse ? coarse + 360.0 : coarse;
+    if (isClearOfZero(coarse) && isClearOf(coarse, first) && isClearOf(turned, last)) {
+        return turned < last;
+    }
+    double deg = directionDeg(fromCenter);
     if (deg == 360.0) deg = 0.0;
     if (first >= deg) deg += 360.0;
     return !(deg > last); // a NaN passes

@@ -12,8 +12,8 @@ using namespace planegeo;
 class LiteralArc {
   public:
     explicit LiteralArc(AngleRange range) {
-        const double start = raised(range.start);
-        const double end = raised(range.end);
+        const double start = raisedOnce(range.start);
+        const double end = raisedOnce(range.end);
         full_ = std::fabs(end - start) < kLineArcSlackDeg ||
                 std::fabs(end - start - 360.0) < kLineArcSlackDeg;
         first_ = start - kLineArcSlackDeg;
@@ -23,6 +23,11 @@ class LiteralArc {
 
     bool holds(Vec2 fromCenter) const {
         if (full_) return true;
+        const double coarse = coarseDirectionDeg(fromCenter);
+        const double raised = first_ > coarse ? coarse + 360.0 : coarse;
+        if (isClearOfZero(coarse) && isClearOf(coarse, first_) && isClearOf(raised, last_)) {
+            return raised < last_;
+        }
         double deg = directionDeg(fromCenter);
         if (std::fabs(deg - 360.0) < kLineArcSlackDeg) deg = 0.0;
         if (first_ > deg) deg += 360.0;
@@ -30,7 +35,7 @@ class LiteralArc {
     }
 
   private:
-    static double raised(double deg) { return deg < 0.0 ? deg + 360.0 : deg; }
+    static double raisedOnce(double deg) { return deg < 0.0 ? deg + 360.0 : deg; }
 
     double first_;
     double last_;

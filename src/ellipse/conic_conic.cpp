@@ -14,31 +14,28 @@ namespace {
 
 using namespace planegeo;
 
-/// Common points with their parameters on the ellipse.
-struct PointsOnEllipse {
+struct Points {
     int count = 0;
     Vec2 at[4] = {};
-    double parameterDeg[4] = {};
 
-    void push(Vec2 point, double deg) {
-        at[count] = point;
-        parameterDeg[count++] = deg;
-    }
+    void push(Vec2 point) { at[count++] = point; }
 };
 
 /// Every point but those that repeat one before it. The squared distance is compared with errdist
-/// itself, on purpose.
-PointsOnEllipse withoutRepeats(const PointsOnEllipse &points) {
-    PointsOnEllipse distinct;
+/// itself, on purpose. parameterOf(i) is the parameter of a point on the ellipse, degrees.
+template <class ParameterOf> Points withoutRepeats(const Points &points, ParameterOf parameterOf) {
+    Points distinct;
+    int which[4] = {};
     for (int j = 0; j < points.count; ++j) {
         bool repeats = false;
         for (int i = 0; i < distinct.count && !repeats; ++i) {
             const Vec2 apart = points.at[j] - distinct.at[i];
-            repeats =
-                dot(apart, apart) < distanceTolerance() &&
-                angleBetween(points.parameterDeg[j], distinct.parameterDeg[i]) < kSameParameterDeg;
+            repeats = dot(apart, apart) < distanceTolerance() &&
+                      angleBetween(parameterOf(j), parameterOf(which[i])) < kSameParameterDeg;
         }
-        if (!repeats) distinct.push(points.at[j], points.parameterDeg[j]);
+        if (repeats) continue;
+        which[distinct.count] = j;
+        distinct.push(points.at[j]);
     }
     return distinct;
 }
@@ -46,7 +43,7 @@ PointsOnEllipse withoutRepeats(const PointsOnEllipse &points) {
 /// The points on both arcs; nothing when the shape of the ellipse is refused.
 ///
 /// Angles are taken in the common frame: they keep their digits far from the origin.
-std::optional<PointsOnEllipse> crossArcs(const Arc &arc, const DTELLIPSE &ellipse) {
+std::optional<Points> crossArcs(const Arc &arc, const DTELLIPSE &ellipse) {
     const EllipseFrame frame = EllipseFrame::of(ellipse);
     const Vec2 center = frame.turn.undo(frame.center - arc.circle.center);
     const ConicPoints points =
@@ -55,22 +52,23 @@ std::optional<PointsOnEllipse> crossArcs(const Arc &arc, const DTELLIPSE &ellips
 
     const EllipseFrame local = {center, {1.0, 0.0}, frame.halfFirst, frame.halfSecond};
     const bool isSegment = !(frame.halfSecond >= kShortestHalfAxis);
-    PointsOnEllipse kept;
+    const AngleRange onCircle = AngleRange::normalised(arc.range.start, arc.range.end).range;
+    const AngleRange onEllipse = AngleRange::normalised(ellipse.start, ellipse.end).range;
+    Points kept;
+    Vec2 rays[4] = {};
     for (int i = 0; i < points.count; ++i) {
-        const Vec2 point = points.at[i];
-        const Vec2 turned = frame.turn.apply(point);
-        if (!isOnArc(arc.range.start, arc.range.end, directionDeg(turned))) continue;
-        double deg = 0.0;
+        const Vec2 turned = frame.turn.apply(points.at[i]);
+        if (!onCircle.containsDirection(turned)) continue;
         if (!isSegment) {
-            const auto parameter = parameterOfPoint(point, local, 0.0);
-            if (!parameter) return std::nullopt;
-            deg = *parameter;
-            if (!isOnArc(ellipse.start, ellipse.end, deg)) continue;
+            if (!hasParameters(local)) return std::nullopt;
+            rays[kept.count] = parameterRay(points.at[i], local);
+            if (!onEllipse.containsDirection(rays[kept.count])) continue;
         }
-        kept.push(turned + arc.circle.center, deg);
+        kept.push(turned + arc.circle.center);
     }
     // Only the count is lowered, on purpose: the points stay where they were in the list.
-    if (!isSegment) kept.count = withoutRepeats(kept).count;
+    const auto parameterOf = [&](int i) { return directionDeg(rays[i]); };
+    if (!isSegment) kept.count = withoutRepeats(kept, parameterOf).count;
     return kept;
 }
 
@@ -172,14 +170,13 @@ int32_t a2d_chk_distdeg(const DTPOINT *points, int32_t n, const double *center, 
                         double a, double b, DTPOINT *out) {
     if (n < 2 || n > 4) return -1;
     const EllipseFrame frame = EllipseFrame::of({center[0], center[1]}, a, b, rot);
-    PointsOnEllipse all;
+    if (!hasParameters(frame)) return -1;
+    Points all;
     for (int i = 0; i < n; ++i) {
-        const Vec2 point = load(points + i);
-        const auto parameter = parameterOfPoint(point, frame, rot);
-        if (!parameter) return -1;
-        all.push(point, *parameter);
+        all.push(load(points + i));
     }
-    const PointsOnEllipse distinct = withoutRepeats(all);
+    const Points distinct =
+        withoutRepeats(all, [&](int i) { return *parameterOfPoint(all.at[i], frame, rot); });
     for (int i = 0; i < distinct.count; ++i) {
         store(distinct.at[i], out + i);
     }

@@ -49,21 +49,27 @@ EllipseAxes axesByRytz(Vec2 u, Vec2 v) {
 
 } // namespace
 
-std::optional<double> parameterOfPoint(Vec2 point, const EllipseFrame &frame, double rotationDeg) {
+bool hasParameters(const EllipseFrame &frame) {
     const double tolerance = distanceTolerance();
+    return !(std::fabs(2.0 * frame.halfFirst) < tolerance ||
+             std::fabs(2.0 * frame.halfSecond) < tolerance);
+}
+
+Vec2 parameterRay(Vec2 point, const EllipseFrame &frame) {
     const double halfFirst = frame.halfFirst;
-    const double halfSecond = frame.halfSecond;
-    if (std::fabs(2.0 * halfFirst) < tolerance || std::fabs(2.0 * halfSecond) < tolerance) {
-        return std::nullopt;
-    }
     // The plane is stretched from the first axis until the ellipse is the circle of radius
     // halfFirst. Where half the axis is too short for a foot on it, the point is its own foot.
     const Vec2 axis = {halfFirst * frame.turn.c, halfFirst * frame.turn.s};
-    const bool hasFoot = !(std::fabs(halfFirst) < tolerance);
+    const bool hasFoot = !(std::fabs(halfFirst) < distanceTolerance());
     const Vec2 foot = hasFoot ? footOnLine(point, frame.center, axis).point : point;
-    const Vec2 stretched = foot + (point - foot) * (halfFirst / halfSecond);
+    const Vec2 stretched = foot + (point - foot) * (halfFirst / frame.halfSecond);
+    return stretched - frame.center;
+}
+
+std::optional<double> parameterOfPoint(Vec2 point, const EllipseFrame &frame, double rotationDeg) {
+    if (!hasParameters(frame)) return std::nullopt;
     // Not reduced on purpose; the centre itself gives -rotationDeg.
-    return directionDeg(stretched - frame.center) - rotationDeg;
+    return directionDeg(parameterRay(point, frame)) - rotationDeg;
 }
 
 double parameterOfPolar(double first, double second, double polarDeg) {

@@ -13,6 +13,12 @@ namespace planegeo {
 /// -rotationDeg to 360 - rotationDeg. Nothing when an axis is shorter than errdist.
 std::optional<double> parameterOfPoint(Vec2 point, const EllipseFrame &frame, double rotationDeg);
 
+/// Whether no axis is shorter than errdist, so that there are parameters.
+bool hasParameters(const EllipseFrame &frame);
+/// The vector whose direction is the parameter of the point's ray, unless the frame is turned;
+/// only where hasParameters().
+Vec2 parameterRay(Vec2 point, const EllipseFrame &frame);
+
 /// Polar angle of the point at a parameter, [0, 360]; full or half axes, both of one kind.
 inline double polarOfParameter(double first, double second, double parameterDeg) {
     const Rotation parameter = Rotation::ofDegrees(parameterDeg);

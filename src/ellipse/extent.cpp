@@ -83,7 +83,7 @@ struct LocalArc {
     /// The point, or the nearer end where the arc does not reach it; the end where both ends
     /// are as near.
     Vec2 nearest(Vec2 local) const {
-        if (inPolarRange(polar, snappedDirectionRad(local) * kDegPerRad)) return local;
+        if (inPolarRange(polar, local, 0.0)) return local;
         return plainLength(local - end) > plainLength(local - start) ? start : end;
     }
 

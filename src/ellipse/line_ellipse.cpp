@@ -66,14 +66,17 @@ void store(const LineCrossing &crossing, Vec2 center, DTPOINT *out1, DTPOINT *ou
 LineCrossing keptOnArc(const LineCrossing &crossing, const EllipseFrame &ellipse,
                        double rotationDeg, const double *ends) {
     if (crossing.count == 0) return crossing;
-    const AngleRange arc =
+    const AngleRange polar =
         AngleRange::normalised(snappedPolarDeg(ellipse, ends[0]), snappedPolarDeg(ellipse, ends[1]))
             .range;
+    // Once more on purpose: that moves a start below 0 by a rounding.
+    const AngleRange arc = AngleRange::normalised(polar.start, polar.end).range;
     LineCrossing kept;
     for (std::uint32_t i = 0; i < crossing.count; ++i) {
         const Vec2 point = crossing.points[i];
-        const double deg = snappedDirectionRad(point) * kDegPerRad - rotationDeg;
-        if (isOnArc(arc.start, arc.end, deg)) kept.points[kept.count++] = point;
+        const bool isOnArc = holdsSnappedDirection(point, rotationDeg, arc,
+                                                   [arc](double deg) { return arc.contains(deg); });
+        if (isOnArc) kept.points[kept.count++] = point;
     }
     return kept;
 }

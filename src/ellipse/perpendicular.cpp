@@ -47,7 +47,7 @@ class FeetQuestion {
     NearestFeet nearest() const;
 
   private:
-    bool isAtCenter() const { return hypotLength(q_) < distanceTolerance(); }
+    bool isAtCenter() const { return isShorterThan(q_, distanceTolerance()); }
     bool isOnSecondAxis() const { return std::fabs(q_.x) < distanceTolerance(); }
     bool isOnFirstAxis() const { return std::fabs(q_.y) < distanceTolerance(); }
     /// Without a difference of the axes, which only a negative errdist lets pass, the quartic has
@@ -144,9 +144,10 @@ Feet feetOnArc(Vec2 p, const DTELLIPSE &e) {
     const Feet feet = allFeet(p, e);
     if (feet.count < 1) return feet;
     const EllipseFrame frame = EllipseFrame::of(e);
+    const AngleRange polar = polarEnds(frame, {e.start, e.end});
     Feet kept;
     for (int i = 0; i < feet.count; ++i) {
-        if (onEllipseArc(feet.at[i], frame, e.rot, {e.start, e.end}) == OnEllipseArc::yes) {
+        if (onPolarArc(feet.at[i], frame, e.rot, polar) == OnEllipseArc::yes) {
             kept.at[kept.count++] = feet.at[i];
         }
     }

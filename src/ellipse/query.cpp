@@ -41,6 +41,11 @@ bool inPolarRange(AngleRange range, double directionDeg) {
     return !(theta < first || theta > end + kPolarSlackDeg); // a NaN passes
 }
 
+bool inPolarRange(AngleRange range, Vec2 v, double rotationDeg) {
+    return holdsSnappedDirection(v, rotationDeg, range,
+                                 [range](double deg) { return inPolarRange(range, deg); });
+}
+
 namespace {
 
 /// Polar angle of an arc's end, by pi and 180 and not by the degree constants on purpose: where
@@ -53,18 +58,38 @@ double polarEndDeg(const EllipseFrame &frame, double parameterDeg) {
 
 } // namespace
 
-OnEllipseArc onEllipseArc(Vec2 point, const EllipseFrame &frame, double rotationDeg,
-                          AngleRange parameters) {
+AngleRange polarEnds(const EllipseFrame &frame, AngleRange parameters) {
+    return {polarEndDeg(frame, parameters.start), polarEndDeg(frame, parameters.end)};
+}
+
+namespace {
+
+/// Whether a point lies on the curve, whatever its direction.
+OnEllipseArc onCurve(Vec2 point, const EllipseFrame &frame, double rotationDeg) {
     if (2.0 * frame.halfFirst <= kAxisTooShort || 2.0 * frame.halfSecond <= kAxisTooShort) {
         return OnEllipseArc::axisTooShort;
     }
-    if (focalSum(point, frame, rotationDeg).deviation() >= kFocalSumSlack) {
-        return OnEllipseArc::no;
-    }
-    const AngleRange polar = {polarEndDeg(frame, parameters.start),
-                              polarEndDeg(frame, parameters.end)};
-    const double direction = snappedDirectionRad(point - frame.center) * kDegPerRad;
-    return inPolarRange(polar, direction - rotationDeg) ? OnEllipseArc::yes : OnEllipseArc::no;
+    const bool isOff = focalSum(point, frame, rotationDeg).deviation() >= kFocalSumSlack;
+    return isOff ? OnEllipseArc::no : OnEllipseArc::yes;
+}
+
+} // namespace
+
+OnEllipseArc onPolarArc(Vec2 point, const EllipseFrame &frame, double rotationDeg,
+                        AngleRange polar) {
+    const OnEllipseArc curve = onCurve(point, frame, rotationDeg);
+    if (curve != OnEllipseArc::yes) return curve;
+    return inPolarRange(polar, point - frame.center, rotationDeg) ? OnEllipseArc::yes
+                                                                  : OnEllipseArc::no;
+}
+
+OnEllipseArc onEllipseArc(Vec2 point, const EllipseFrame &frame, double rotationDeg,
+                          AngleRange parameters) {
+    const OnEllipseArc curve = onCurve(point, frame, rotationDeg);
+    if (curve != OnEllipseArc::yes) return curve;
+    const AngleRange polar = polarEnds(frame, parameters);
+    return inPolarRange(polar, point - frame.center, rotationDeg) ? OnEllipseArc::yes
+                                                                  : OnEllipseArc::no;
 }
 
 } // namespace planegeo
@@ -144,8 +169,7 @@ int32_t ca_onelp(const DTPOINT *center, double a, double b, double rot, const do
 }
 
 int32_t pin_chk(const DTPOINT *center, double rot, const double *range, const DTPOINT *point) {
-    const double direction = snappedDirectionRad(load(point) - load(center)) * kDegPerRad;
-    return inPolarRange({range[0], range[1]}, direction - rot) ? 0 : 1;
+    return inPolarRange({range[0], range[1]}, load(point) - load(center), rot) ? 0 : 1;
 }
 
 int32_t ca_posel(const DTPOINT *center, double a, double b, double rot, const DTPOINT *point,

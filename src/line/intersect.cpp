@@ -32,8 +32,8 @@ struct LinePair {
 /// On purpose both quotients must be small: one alone is no parallel.
 bool areParallel(double determinant, const Segment &first, const Segment &second) {
     const double tolerance = distanceTolerance();
-    return std::fabs(determinant) / hypotLength(first.direction()) < tolerance &&
-           std::fabs(determinant) / hypotLength(second.direction()) < tolerance;
+    return isQuotientBelow(std::fabs(determinant), first.direction(), tolerance) &&
+           isQuotientBelow(std::fabs(determinant), second.direction(), tolerance);
 }
 
 bool isVertical(double deg) {

@@ -12,10 +12,9 @@ OnSegment onSegment(const Segment &segment, Vec2 q) {
         return OnSegment::yes;
     }
     const Vec2 direction = segment.direction();
-    const double length = hypotLength(direction);
-    if (length < tolerance) return OnSegment::segmentTooShort;
-    const double distance = std::fabs(cross(direction, fromStart)) / length;
-    if (!(distance < tolerance)) return OnSegment::no;
+    if (isShorterThan(direction, tolerance)) return OnSegment::segmentTooShort;
+    const double distanceTimesLength = std::fabs(cross(direction, fromStart));
+    if (!isQuotientBelow(distanceTimesLength, direction, tolerance)) return OnSegment::no;
     const bool between = dot(direction, fromStart) >= 0.0 && dot(-direction, fromEnd) >= 0.0;
     return between ? OnSegment::yes : OnSegment::no;
 }
@@ -26,10 +25,8 @@ namespace {
 
 using namespace planegeo;
 
-/// Length of the projection onto `along` of a vector whose dot product with it is `product`.
-double projectionLength(double product, Vec2 along) {
-    return hypotLength(along * (product / dot(along, along)));
-}
+/// Projection onto `along` of a vector whose dot product with it is `product`.
+Vec2 projection(double product, Vec2 along) { return along * (product / dot(along, along)); }
 
 } // namespace
 
@@ -68,21 +65,20 @@ int32_t a2d_Chk3pnt(const DTPOINT *p1, const DTPOINT *p2, const DTPOINT *p3) {
     const Vec2 fromStart = load(p3) - segment.start;
     const Vec2 fromEnd = load(p3) - segment.end;
     double tolerance = distanceTolerance();
-    const double startDistance = hypotLength(fromStart);
-    if (tolerance > startDistance) tolerance = startDistance * 0.5;
-    if (hypotLength(fromEnd) < tolerance) return kOnSegment;
+    if (isShorterThan(fromStart, tolerance)) tolerance = hypotLength(fromStart) * 0.5;
+    if (isShorterThan(fromEnd, tolerance)) return kOnSegment;
 
     int32_t where = 0;
     const Vec2 forward = segment.direction();
     const double ahead = dot(fromStart, forward);
     if (ahead >= 0.0) {
-        if (projectionLength(ahead, forward) <= tolerance) return kOnSegment;
+        if (isNotLongerThan(projection(ahead, forward), tolerance)) return kOnSegment;
         where |= kNotBeforeStart;
     }
     const Vec2 backward = -forward;
     const double behind = dot(fromEnd, backward);
     if (behind < 0.0) return where;
-    if (projectionLength(behind, backward) <= tolerance) return kOnSegment;
+    if (isNotLongerThan(projection(behind, backward), tolerance)) return kOnSegment;
     return where | kNotBeyondEnd;
 }
 

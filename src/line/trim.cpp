@@ -9,9 +9,10 @@ using namespace planegeo;
 Segment load(const DTLINE *line) { return {{line->x1, line->y1}, {line->x2, line->y2}}; }
 
 /// Not nearer than errdist to the infinite line, or a line without direction.
-bool isOffLine(Vec2 point, const Segment &line, double length) {
-    const double distance = std::fabs(cross(line.direction(), point - line.start)) / length;
-    return !(distance < distanceTolerance());
+bool isOffLine(Vec2 point, const Segment &line) {
+    const Vec2 direction = line.direction();
+    const double distanceTimesLength = std::fabs(cross(direction, point - line.start));
+    return !isQuotientBelow(distanceTimesLength, direction, distanceTolerance());
 }
 
 } // namespace
@@ -38,10 +39,7 @@ int32_t ca_DistAlongbyLineFromSpnt(const DTPOINT *start, const DTPOINT *end, dou
 int32_t a2d_InsDl(const DTLINE *elem, const DTLINE *cut, DTPOINT *out) {
     const Segment element = load(elem);
     const Segment cutting = load(cut);
-    const double length = hypotLength(cutting.direction());
-    if (isOffLine(element.start, cutting, length) || isOffLine(element.end, cutting, length)) {
-        return -1;
-    }
+    if (isOffLine(element.start, cutting) || isOffLine(element.end, cutting)) return -1;
     const Vec2 kept = keepsStart() ? element.start : element.end;
     if (onSegment(cutting, kept) != OnSegment::yes) return 0;
     store(kept, out);
