@@ -71,7 +71,7 @@ inline bool isQuotientBelow(double magnitude, Vec2 v, double limit) {
 /// Both components are below the limit: the box test by which several questions ask
 /// whether two points coincide.
 inline bool isWithinBox(Vec2 v, double limit) {
-    return std::fabs(v.x) < limit && std::fabs(v.y) < limit;
+    return (std::fabs(v.x) < limit) & (std::fabs(v.y) < limit);
 }
 
 /// An anticlockwise turn; sine and cosine are taken once.

@@ -16,19 +16,31 @@ bool areCollinear(double cross, double d12, double d23, double d13) {
            area / (d13 * d23) < kCollinearSine;
 }
 
+/// Whether the sine of one angle is so far above the limit that the lengths need not be known.
+bool isClearTriangle(double cross, Vec2 side, Vec2 other) {
+    constexpr double kSquaredSine = 4.0 * kCollinearSine * kCollinearSine;
+    constexpr double kFarFromUnderflow = 0x1p-900;
+    const double side2 = dot(side, side), other2 = dot(other, other);
+    return side2 > kFarFromUnderflow && other2 > kFarFromUnderflow &&
+           cross * cross > kSquaredSine * (side2 * other2);
+}
+
 /// The arc from p1 by p2 to p3, stored anticlockwise whichever way it turns. With s and t the
 /// sides p1p2 and p2p3, its centre is
 ///   p2 + left of (|t|^2 s + |s|^2 t) / (2 s x t).
 std::optional<Arc> arcThrough(Vec2 p1, Vec2 p2, Vec2 p3) {
     const Vec2 s = p2 - p1;
     const Vec2 t = p3 - p2;
-    const double d12 = hypotLength(s);
-    const double d23 = hypotLength(t);
-    const double d13 = hypotLength(p3 - p1);
     const double tolerance = distanceTolerance();
-    if (d12 < tolerance || d23 < tolerance || d13 < tolerance) return std::nullopt;
+    if (isShorterThan(s, tolerance) || isShorterThan(t, tolerance) ||
+        isShorterThan(p3 - p1, tolerance)) {
+        return std::nullopt;
+    }
     const double turn = cross(s, t);
-    if (areCollinear(turn, d12, d23, d13)) return std::nullopt;
+    if (!isClearTriangle(turn, s, p3 - p1) &&
+        areCollinear(turn, hypotLength(s), hypotLength(t), hypotLength(p3 - p1))) {
+        return std::nullopt;
+    }
 
     const Vec2 center = p2 + leftNormal(s * dot(t, t) + t * dot(s, s)) / (2.0 * turn);
     const double deg1 = directionDeg(p1 - center);

@@ -4,7 +4,7 @@
 
 namespace planegeo {
 
-OnSegment onSegment(const Segment &segment, Vec2 q) {
+OnSegment onSegmentByDistance(const Segment &segment, Vec2 q) {
     const double tolerance = distanceTolerance();
     const Vec2 fromStart = q - segment.start;
     const Vec2 fromEnd = q - segment.end;
@@ -40,11 +40,8 @@ int32_t ca_posln(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *p, uint16_
     const Vec2 direction = line.direction();
     const Vec2 toPoint = load(p) - line.start;
     const double turn = toPoint.y * direction.x - toPoint.x * direction.y;
-    if (std::fabs(turn) < tolerance) {
-        *side = 0;
-    } else {
-        *side = turn > 0.0 ? 65535 : 1;
-    }
+    const uint16_t besideLine = turn > 0.0 ? 65535 : 1;
+    *side = std::fabs(turn) < tolerance ? uint16_t{0} : besideLine;
     return 0;
 }
 

@@ -27,14 +27,13 @@ constexpr Complex operator*(Complex z, Complex w) {
 
 /// Smith's quotient, scaled by the larger part of the divisor. A zero divisor gives NaN.
 Complex operator/(Complex z, Complex w) {
-    if (std::fabs(w.re) >= std::fabs(w.im)) {
-        const double ratio = w.im / w.re;
-        const double scale = w.re + w.im * ratio;
-        return {(z.re + z.im * ratio) / scale, (z.im - z.re * ratio) / scale};
-    }
-    const double ratio = w.re / w.im;
-    const double scale = w.re * ratio + w.im;
-    return {(z.re * ratio + z.im) / scale, (z.im * ratio - z.re) / scale};
+    const bool byReal = std::fabs(w.re) >= std::fabs(w.im);
+    const double large = byReal ? w.re : w.im, small = byReal ? w.im : w.re;
+    const double p = byReal ? z.re : z.im, q = byReal ? z.im : z.re;
+    const double ratio = small / large;
+    const double scale = large + small * ratio;
+    const double turned = p * ratio;
+    return {(p + q * ratio) / scale, (byReal ? q - turned : turned - q) / scale};
 }
 
 /// n times the largest |c[k]|^(1/k). c[1] is left out on purpose.
@@ -67,10 +66,17 @@ Complex evaluate(const double *c, int n, Complex z) {
     return sum;
 }
 
-/// Moves every root in its turn, against those that this sweep has moved already. Returns the
-/// largest |value| met, before the moves; a NaN is no largest.
-double sweep(RootTable &z, const double *c, int n) {
-    double residual = 0.0;
+/// |z| >= limit; not of a NaN.
+bool reaches(Complex z, double limit) {
+    const bool partReaches = std::fabs(z.re) >= limit || std::fabs(z.im) >= limit;
+    if (partReaches && !std::isnan(z.re) && !std::isnan(z.im)) return true;
+    return std::hypot(z.re, z.im) >= limit;
+}
+
+/// Moves every root in its turn, against those that this sweep has moved already. Returns whether
+/// the largest |value| met, before the moves, is below the bound; a NaN is no largest.
+bool sweep(RootTable &z, const double *c, int n, double bound) {
+    bool isBelow = bound > 0.0;
     const auto count = static_cast<std::size_t>(n);
     for (std::size_t i = 0; i < count; ++i) {
         const Complex value = evaluate(c, n, z[i]);
@@ -78,11 +84,10 @@ double sweep(RootTable &z, const double *c, int n) {
         for (std::size_t j = 0; j < count; ++j) {
             if (j != i) product = product * (z[i] - z[j]);
         }
-        const double size = std::hypot(value.re, value.im);
-        if (size > residual) residual = size;
+        if (isBelow && reaches(value, bound)) isBelow = false;
         z[i] = z[i] - value / product;
     }
-    return residual;
+    return isBelow;
 }
 
 /// Notices when the roots come back to where they were, bit by bit: from then on sweeps repeat
@@ -143,7 +148,7 @@ bool iterate(RootTable &z, const double *c, int n, double bound, double budget) 
     std::int64_t last = std::min(wanted, sweepLimit(n));
     PeriodFinder finder;
     for (std::int64_t made = 1; made <= last; ++made) {
-        if (sweep(z, c, n) < bound) return true;
+        if (sweep(z, c, n, bound)) return true;
         const std::int64_t period = finder.period(z, n, made);
         if (period > 0) last = made + (wanted - made) % period;
     }

@@ -24,7 +24,10 @@ constexpr double kFourPi = 12.566370614359172;
 
 /// The real cube root. By `pow` on purpose: a root one bit away may send a quartic through
 /// another branch.
-double cubeRoot(double v) { return v >= 0.0 ? std::pow(v, kThird) : -std::pow(-v, kThird); }
+double cubeRoot(double v) {
+    const double root = std::pow(std::fabs(v), kThird);
+    return v < 0.0 ? -root : root;
+}
 
 /// A cubic shifted by x = y - a to y^3 - 3 q y - 2 r = 0. Roots are computed one by one: the
 /// quartic seldom asks for more than the first.
@@ -39,7 +42,7 @@ class ShiftedCubic {
         if (discriminant > 0.0) {
             kind_ = Kind::oneReal;
             const double s = std::sqrt(discriminant);
-            first_ = cubeRoot(r > 0.0 ? r + s : r - s);
+            first_ = cubeRoot(r + (r > 0.0 ? s : -s));
             second_ = q / first_;
         } else if (discriminant < 0.0) {
             kind_ = Kind::threeReal;
@@ -186,13 +189,13 @@ Roots<2> solveQuadratic(const Polynomial<2> &c) {
     if (c[0] == 0.0) return {{}, kNoLeadingCoefficient};
     const double h = c[1] / c[0] * 0.5;
     const double discriminant = h * h - c[2] / c[0];
-    if (discriminant > 0.0) {
-        const double s = std::sqrt(discriminant);
-        return {{real(s - h), real(-h - s)}, 2};
-    }
     if (discriminant == 0.0) return {{real(-h), real(-h)}, 2};
-    const double s = std::sqrt(-discriminant);
-    return {{Complex{-h, s}, Complex{-h, -s}}, 0};
+    // Chosen without a branch: the sign is as good as random.
+    const bool isReal = discriminant > 0.0;
+    const double s = std::sqrt(isReal ? discriminant : -discriminant);
+    return {{Complex{isReal ? s - h : -h, isReal ? 0.0 : s},
+             Complex{isReal ? -h - s : -h, isReal ? 0.0 : -s}},
+            isReal ? 2 : 0};
 }
 
 Roots<3> solveCubic(const Polynomial<3> &c) {
