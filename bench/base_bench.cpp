@@ -1,11 +1,10 @@
 // Settings, degree trigonometry, angle ranges and points.
 
-#include "table.h"
+#include "inputs.h"
 
 namespace {
 
-using bench::Random;
-using bench::row;
+using namespace bench;
 
 struct Value {
     double v;
@@ -13,24 +12,18 @@ struct Value {
 struct Range {
     double start, end, angle;
 };
-struct Points {
-    DTPOINT p, q, r;
-    double angle;
-};
 
 Value angle(Random &random) { return {random.uniform(-360.0, 360.0)}; }
 Value sine(Random &random) { return {random.uniform(-1.0, 1.0)}; }
 Range range(Random &random) { return {random.angleDeg(), random.angleDeg(), random.angleDeg()}; }
-Points points(Random &random) {
-    return {random.point(), random.point(), random.point(), random.angleDeg()};
-}
 
 const int kSettings[] = {
     row("ca_geterrdist", angle, [](const Value &) { return ca_geterrdist(); }),
-    row("ca_seterrdist", angle, [](const Value &) { return ca_seterrdist(1e-6), 0; }),
+    singleThreadRow("ca_seterrdist", angle, [](const Value &) { return ca_seterrdist(1e-6), 0; }),
     row("ca_GetStartendFlg", angle, [](const Value &) { return ca_GetStartendFlg(); }),
-    row("ca_SetStartendFlg", angle, [](const Value &) { return ca_SetStartendFlg(0), 0; }),
-    row("ca_Simpson_getParmtbl", angle, [](const Value &) { return ca_Simpson_getParmtbl(); }),
+    singleThreadRow("ca_SetStartendFlg", angle,
+                    [](const Value &) { return ca_SetStartendFlg(0), 0; }),
+    row("ca_Simpson_getParmtbl", angle, [](const Value &) { return ca_Simpson_getParmtbl()[0]; }),
 };
 
 const int kAngles[] = {

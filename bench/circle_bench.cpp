@@ -1,31 +1,11 @@
 // Circles and arcs.
 
-#include "table.h"
+#include "inputs.h"
 
 namespace {
 
-using bench::Random;
-using bench::row;
+using namespace bench;
 
-struct LineAndArc {
-    DTPOINT a1, a2, center;
-    double r;
-    double angles[2];
-};
-struct TwoArcs {
-    DTPOINT c1, c2;
-    double r1, r2;
-    double angles1[2], angles2[2];
-};
-struct Chord {
-    DTPOINT p, q, between;
-    double ratio;
-};
-struct ArcAndPoint {
-    DTPOINT center, point;
-    double r, start, end;
-    double radians[2];
-};
 struct CutArcs {
     DTARC elem, cut;
 };
@@ -33,44 +13,6 @@ struct Polyline {
     std::array<DTPOINT, 16> points;
 };
 
-DTPOINT onCircle(DTPOINT center, double r, double deg) {
-    const double rad = deg * 0.017453292519943295;
-    return {center.x + r * std::cos(rad), center.y + r * std::sin(rad)};
-}
-
-/// The segment reaches from inside the circle to somewhere.
-LineAndArc lineAndArc(Random &random) {
-    const DTPOINT center = random.point();
-    const double r = random.length();
-    const DTPOINT inside = onCircle(center, 0.9 * r, random.angleDeg());
-    return {inside, random.point(), center, r, {random.angleDeg(), random.angleDeg()}};
-}
-/// The second circle goes through a point of the first.
-TwoArcs twoArcs(Random &random) {
-    const DTPOINT c1 = random.point(), c2 = random.point();
-    const double r1 = random.length();
-    const DTPOINT shared = onCircle(c1, r1, random.angleDeg());
-    const double r2 = std::hypot(shared.x - c2.x, shared.y - c2.y);
-    return {c1,
-            c2,
-            r1,
-            r2,
-            {random.angleDeg(), random.angleDeg()},
-            {random.angleDeg(), random.angleDeg()}};
-}
-
-Chord chord(Random &random) {
-    return {random.point(), random.point(), random.point(), random.uniform(0.05, 1.0)};
-}
-/// The point is as often inside the circle as outside.
-ArcAndPoint arcAndPoint(Random &random) {
-    const DTPOINT center = random.point();
-    const double r = random.length(), start = random.angleDeg();
-    const double end = start + random.uniform(1.0, 359.0);
-    const DTPOINT point = onCircle(center, r * random.uniform(0.1, 1.9), random.angleDeg());
-    constexpr double kRad = 0.017453292519943295;
-    return {center, point, r, start, end, {start * kRad, end * kRad}};
-}
 CutArcs cutArcs(Random &random) {
     const DTPOINT c = random.point();
     const double r = random.length();

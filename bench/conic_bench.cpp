@@ -1,24 +1,13 @@
 // Ellipses with lines, circles and ellipses.
 
-#include "table.h"
+#include "inputs.h"
 
 namespace {
 
-using bench::Random;
-using bench::row;
+using namespace bench;
 
-struct LineAndEllipse {
-    DTPOINT p1, p2, center;
-    double a, b, rot;
-    double angles[2];
-};
 struct TwoRecords {
     DTELLIPSE e1, e2;
-};
-struct TwoArcs {
-    double center1[2], center2[2];
-    double a1, a2, b1, b2, rot1, rot2; // a1 is twice the radius where the first is a circle
-    double angles1[2], angles2[2];
 };
 struct Points {
     DTPOINT at[4];
@@ -26,18 +15,6 @@ struct Points {
     double a, b, rot;
 };
 
-/// A line that passes the centre nearby: most cut the ellipse.
-LineAndEllipse lineAndEllipse(Random &random) {
-    const DTPOINT center = random.point(), through = random.point(), from = random.point();
-    const double a = random.length(), b = random.length();
-    return {{center.x + through.x / 4, center.y + through.y / 4},
-            from,
-            center,
-            a,
-            b,
-            random.angleDeg(),
-            {random.angleDeg(), random.angleDeg()}};
-}
 LineAndEllipse lineAndStandardEllipse(Random &random) {
     LineAndEllipse in = lineAndEllipse(random);
     in.p1 = {in.p1.x - in.center.x, in.p1.y - in.center.y};
@@ -66,33 +43,8 @@ TwoRecords sameEllipse(Random &random) {
     return {e1, e2};
 }
 
-/// Through a common point, so that all cross; the first axes are the longer ones.
-TwoArcs twoArcs(Random &random) {
-    TwoArcs in = {{},           {},          random.length(),   random.length(),
-                  0.0,          0.0,         random.angleDeg(), random.angleDeg(),
-                  {0.0, 360.0}, {0.0, 360.0}};
-    in.b1 = in.a1 * random.uniform(0.1, 1.0);
-    in.b2 = in.a2 * random.uniform(0.1, 1.0);
-    const DTPOINT common = random.point();
-    const auto place = [&](double *center, double a, double b, double rot) {
-        const double t = random.angleDeg();
-        const double x = a / 2 * cosd(t), y = b / 2 * sind(t);
-        center[0] = common.x - x * cosd(rot) + y * sind(rot);
-        center[1] = common.y - x * sind(rot) - y * cosd(rot);
-    };
-    place(in.center1, in.a1, in.b1, in.rot1);
-    place(in.center2, in.a2, in.b2, in.rot2);
-    return in;
-}
-TwoArcs circleAndEllipse(Random &random) {
-    TwoArcs in = twoArcs(random);
-    const double t = random.angleDeg();
-    in.center1[0] += in.a1 / 2 * cosd(t);
-    in.center1[1] += in.a1 / 2 * sind(t);
-    return in;
-}
 Points points(Random &random) {
-    const TwoArcs arc = twoArcs(random);
+    const TwoConicArcs arc = twoConicArcs(random);
     return {{random.point(), random.point(), random.point(), random.point()},
             {arc.center2[0], arc.center2[1]},
             arc.a2,
@@ -101,20 +53,21 @@ Points points(Random &random) {
 }
 
 template <class Make, class Call> int arcRow(const char *name, Make make, Call call) {
-    return row(name, make, [call](const TwoArcs &in) {
+    return row(name, make, [call](const TwoConicArcs &in) {
         DTPOINT p[4] = {};
         int16_t count = 0;
         return call(in, p, &count) + count + p[0].x;
     });
 }
 template <class Call> int insceRow(const char *name, Call call) {
-    return arcRow(name, circleAndEllipse, [call](const TwoArcs &in, DTPOINT *p, int16_t *count) {
-        return call(in.center1, in.a1 / 2, in.angles1, in.center2, in.a2, in.b2, in.rot2,
-                    in.angles2, p, p + 1, p + 2, p + 3, count);
-    });
+    return arcRow(name, circleAndEllipse,
+                  [call](const TwoConicArcs &in, DTPOINT *p, int16_t *count) {
+                      return call(in.center1, in.a1 / 2, in.angles1, in.center2, in.a2, in.b2,
+                                  in.rot2, in.angles2, p, p + 1, p + 2, p + 3, count);
+                  });
 }
 template <class Call> int ins2eRow(const char *name, Call call) {
-    return arcRow(name, twoArcs, [call](const TwoArcs &in, DTPOINT *p, int16_t *count) {
+    return arcRow(name, twoConicArcs, [call](const TwoConicArcs &in, DTPOINT *p, int16_t *count) {
         return call(in.center1, in.center2, in.a1, in.a2, in.b1, in.b2, in.rot1, in.rot2,
                     in.angles1, in.angles2, p, p + 1, p + 2, p + 3, count);
     });
@@ -122,7 +75,7 @@ template <class Call> int ins2eRow(const char *name, Call call) {
 
 const int kConics[] = {
     arcRow("a2dIntersectionEC", circleAndEllipse,
-           [](const TwoArcs &in, DTPOINT *p, int16_t *) {
+           [](const TwoConicArcs &in, DTPOINT *p, int16_t *) {
                return a2dIntersectionEC(in.center2[0] - in.center1[0],
                                         in.center2[1] - in.center1[1], in.a2 / 2, in.b2 / 2,
                                         in.a1 / 2, p);

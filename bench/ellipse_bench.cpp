@@ -1,19 +1,11 @@
 // Ellipses: record and parameters, queries and transforms, extents.
 
-#include "table.h"
+#include "inputs.h"
 
 namespace {
 
-using bench::Random;
-using bench::row;
+using namespace bench;
 
-struct Loose {
-    DTPOINT center;
-    double a, b, rot;
-    double angles[2];
-    double angle;
-    DTPOINT p, q;
-};
 struct Record {
     DTELLIPSE ellipse;
     DTPOINT p;
@@ -21,26 +13,6 @@ struct Record {
     double angle;
 };
 
-/// The point on the curve at a parameter, scaled from the centre.
-DTPOINT at(const Loose &e, double t, double scale) {
-    constexpr double kRadPerDeg = 0.017453292519943295;
-    const double x = e.a / 2 * std::cos(t * kRadPerDeg), y = e.b / 2 * std::sin(t * kRadPerDeg);
-    const double c = std::cos(e.rot * kRadPerDeg), s = std::sin(e.rot * kRadPerDeg);
-    return {e.center.x + scale * (x * c - y * s), e.center.y + scale * (x * s + y * c)};
-}
-
-Loose loose(Random &random) {
-    Loose e{random.point(),
-            random.length(),
-            random.length(),
-            random.angleDeg(),
-            {random.angleDeg(), random.angleDeg()},
-            random.angleDeg(),
-            {},
-            random.point()};
-    e.p = at(e, random.angleDeg(), random.uniform(0.5, 1.5));
-    return e;
-}
 /// Half of the points lie on the curve.
 Loose onCurve(Random &random) {
     Loose e = loose(random);

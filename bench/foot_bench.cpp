@@ -2,36 +2,16 @@
 // evaluates the same steps sample by sample.
 
 #include "../tests/plain_distance.h"
-#include "table.h"
+#include "inputs.h"
 
 namespace {
 
-using bench::Random;
-using bench::row;
+using namespace bench;
 
-struct PointAndEllipse {
-    DTPOINT p, center;
-    double a, b, rot;
-    double angles[2];
-
-    DTELLIPSE record() const { return {0, center.x, center.y, a, b, angles[0], angles[1], rot}; }
-};
 struct TwoEllipses {
     PointAndEllipse e, f;
 };
 
-/// The first axis is the longer; the point may lie inside.
-PointAndEllipse wholeEllipse(Random &random) {
-    const double a = random.length(), b = random.length();
-    const DTPOINT p = random.point(), center = random.point();
-    return {p, center, std::fmax(a, b), std::fmin(a, b), random.angleDeg(), {0.0, 360.0}};
-}
-PointAndEllipse ellipticArc(Random &random) {
-    PointAndEllipse in = wholeEllipse(random);
-    in.angles[0] = random.angleDeg();
-    in.angles[1] = in.angles[0] + random.angleDeg();
-    return in;
-}
 TwoEllipses twoEllipses(Random &random) { return {wholeEllipse(random), wholeEllipse(random)}; }
 
 double plainly(const DTPOINT *center, double a, double b, double rot, const double *angles,

@@ -1,45 +1,22 @@
 // Lines and segments.
 
-#include "table.h"
+#include "inputs.h"
 
 namespace {
 
-using bench::Random;
-using bench::row;
+using namespace bench;
 
-struct TwoLines {
-    DTPOINT a1, a2, b1, b2;
-};
 struct Directions {
     double rec[6];
     double angles[2];
-};
-struct PointAndLine {
-    DTPOINT a1, a2, p;
-    double d;
 };
 struct Collinear {
     DTLINE elem, cut;
 };
 
-TwoLines twoLines(Random &random) {
-    return {random.point(), random.point(), random.point(), random.point()};
-}
 Directions directions(Random &random) {
     const DTPOINT p = random.point(), q = random.point();
     return {{p.x, p.y, q.x, q.y, 0.0, 0.0}, {random.angleDeg(), random.angleDeg()}};
-}
-PointAndLine pointAndLine(Random &random) {
-    return {random.point(), random.point(), random.point(), random.length()};
-}
-/// Half of the points lie on the segment.
-PointAndLine onSegment(Random &random) {
-    PointAndLine in = pointAndLine(random);
-    if (random.uniform(0.0, 1.0) < 0.5) {
-        const double t = random.uniform(0.0, 1.0);
-        in.p = {in.a1.x + (in.a2.x - in.a1.x) * t, in.a1.y + (in.a2.y - in.a1.y) * t};
-    }
-    return in;
 }
 Collinear collinear(Random &random) {
     const DTPOINT p = random.point(), q = random.point();

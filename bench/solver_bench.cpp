@@ -3,29 +3,16 @@
 #include <algorithm>
 #include <string>
 
-#include "table.h"
+#include "inputs.h"
 
 namespace {
 
-using bench::Random;
-using bench::row;
+using namespace bench;
 
-constexpr int kMaxDegree = 40;
-
-struct Equation {
-    double c[kMaxDegree + 1];
-};
 struct Value {
     DTCOMPLEX z;
 };
 
-Equation equation(Random &random) {
-    Equation in;
-    for (double &v : in.c) {
-        v = random.uniform(-10.0, 10.0);
-    }
-    return in;
-}
 /// As from two ellipses with a common centre and axes that are parallel.
 Equation biquadratic(Random &random) {
     return {{1.0, 0.0, random.uniform(-10.0, 10.0), 0.0, random.uniform(-10.0, 10.0)}};
@@ -34,7 +21,7 @@ Value value(Random &random) { return {{random.uniform(-10.0, 10.0), random.unifo
 
 template <class Make, class Call>
 int equationRow(const std::string &name, Make make, int degree, Call call) {
-    return row(name.c_str(), make, [call, degree](const Equation &in) {
+    return row(name, make, [call, degree](const Equation &in) {
         double out[2 * kMaxDegree];
         return call(in.c, out) + out[2 * degree - 2];
     });

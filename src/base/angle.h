@@ -152,22 +152,44 @@ inline AngleRange::Normalised AngleRange::normalised(double start, double end) {
     return {{start, end}, equal};
 }
 
-/// Whether `holds` takes the direction of a vector less a rotation, by snappedDirectionRad(). The
-/// coarse direction decides where it is clear of every angle at which the answer changes, give or
-/// take whole turns: the ends of the range, and those of a turn.
-template <class Holds>
-bool holdsSnappedDirection(Vec2 v, double rotationDeg, AngleRange range, Holds holds) {
-    const double coarse = coarseDirectionDeg(v) - rotationDeg;
-    const auto isClear = [coarse](double deg) {
-        const double apart = std::fabs(coarse - deg);
-        return isClearOf(apart, 0.0) && isClearOf(apart, 360.0) && isClearOf(apart, 720.0) &&
-               apart < 1079.0;
-    };
-    const bool isSnapped = std::fabs(v.x) < kAxisSnapLength || std::fabs(v.y) < kAxisSnapLength;
-    if (!isSnapped && isClear(0.0) && isClear(range.start) && isClear(range.end)) {
-        return holds(coarse);
+/// Whether a component is so short that snappedDirectionRad() counts it as zero.
+inline bool isSnapped(Vec2 v) {
+    return std::fabs(v.x) < kAxisSnapLength || std::fabs(v.y) < kAxisSnapLength;
+}
+
+/// Whether a coarse direction less a rotation is clear of an angle, give or take whole turns.
+inline bool isClearOfTurns(double coarseDeg, double deg) {
+    const double apart = std::fabs(coarseDeg - deg);
+    return isClearOf(apart, 0.0) && isClearOf(apart, 360.0) && isClearOf(apart, 720.0) &&
+           apart < 1079.0;
+}
+
+/// The directions of the two ends of an arc, as far as a coarse look tells them.
+struct CoarseRange {
+    AngleRange range;
+    bool isUsable; ///< neither snapped nor near 0, nor both the same
+
+    static CoarseRange of(Vec2 startRay, Vec2 endRay) {
+        const AngleRange range = {coarseDirectionDeg(startRay), coarseDirectionDeg(endRay)};
+        const bool isUsable = !isSnapped(startRay) && !isSnapped(endRay) &&
+                              isClearOfZero(range.start) && isClearOfZero(range.end) &&
+                              isClearOf(range.start, range.end);
+        return {range, isUsable};
     }
-    return holds(snappedDirectionRad(v) * kDegPerRad - rotationDeg);
+};
+
+/// holds(range, deg) for the direction of a vector, less a rotation, by snappedDirectionRad() and
+/// for the exact range. Its coarse look decides where the direction is clear of every angle at
+/// which the answer changes: the ends of the range, and those of a turn.
+template <class Exact, class Holds>
+bool holdsSnappedDirection(Vec2 v, double rotationDeg, const CoarseRange &ends, Exact exactRange,
+                           Holds holds) {
+    const double coarse = coarseDirectionDeg(v) - rotationDeg;
+    if (ends.isUsable && !isSnapped(v) && isClearOfTurns(coarse, 0.0) &&
+        isClearOfTurns(coarse, ends.range.start) && isClearOfTurns(coarse, ends.range.end)) {
+        return holds(ends.range, coarse);
+    }
+    return holds(exactRange(), snappedDirectionRad(v) * kDegPerRad - rotationDeg);
 }
 
 /// Whether an arc given by any two angles holds a third.

@@ -28,12 +28,6 @@ inline double polarOfParameter(double first, double second, double parameterDeg)
 /// Parameter of the point at a polar angle, [0, 360].
 double parameterOfPolar(double first, double second, double polarDeg);
 
-/// Polar angle of the point at a parameter by the rule that snaps to the axes: a local
-/// component below kAxisSnapLength counts as zero. [0, 360].
-inline double snappedPolarDeg(const EllipseFrame &frame, double parameterDeg) {
-    return snappedDirectionRad(frame.localAt(parameterDeg)) * kDegPerRad;
-}
-
 /// Full axis lengths and the rotation of the first.
 struct EllipseAxes {
     double first;

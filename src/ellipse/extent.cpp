@@ -66,7 +66,8 @@ struct LocalArc {
     double rotationDeg;
     Vec2 start;
     Vec2 end;
-    AngleRange polar;
+    CoarseRange coarse;
+    bool isWholeTurn; ///< whose polar range holds every direction
 
     static LocalArc of(Vec2 center, double first, double second, double rotationDeg,
                        AngleRange parameters) {
@@ -75,16 +76,28 @@ struct LocalArc {
         const EllipseFrame frame = EllipseFrame::of(center, first, second, rotationDeg);
         const Vec2 start = frame.localAt(parameters.start);
         const Vec2 end = frame.localAt(parameters.end);
-        const AngleRange polar = {snappedDirectionRad(start) * kDegPerRad,
-                                  snappedDirectionRad(end) * kDegPerRad};
-        return {frame, rotationDeg, start, end, polar};
+        const bool isWholeTurn = isAtZero(start) && isAtZero(end);
+        return {frame, rotationDeg, start, end, CoarseRange::of(start, end), isWholeTurn};
     }
 
     /// The point, or the nearer end where the arc does not reach it; the end where both ends
     /// are as near.
     Vec2 nearest(Vec2 local) const {
-        if (inPolarRange(polar, local, 0.0)) return local;
+        if (isWholeTurn || isInRange(local)) return local;
         return plainLength(local - end) > plainLength(local - start) ? start : end;
+    }
+
+    /// On the first axis by snappedDirectionRad().
+    static bool isAtZero(Vec2 v) { return std::fabs(v.y) < kAxisSnapLength && v.x > 0.0; }
+
+    bool isInRange(Vec2 local) const {
+        const auto exact = [this] {
+            return AngleRange{snappedDirectionRad(start) * kDegPerRad,
+                              snappedDirectionRad(end) * kDegPerRad};
+        };
+        return holdsSnappedDirection(local, 0.0, coarse, exact, [](AngleRange range, double deg) {
+            return inPolarRange(range, deg);
+        });
     }
 
     /// The points with a tangent of a direction, moved onto the arc.

@@ -66,17 +66,22 @@ void store(const LineCrossing &crossing, Vec2 center, DTPOINT *out1, DTPOINT *ou
 LineCrossing keptOnArc(const LineCrossing &crossing, const EllipseFrame &ellipse,
                        double rotationDeg, const double *ends) {
     if (crossing.count == 0) return crossing;
-    const AngleRange polar =
-        AngleRange::normalised(snappedPolarDeg(ellipse, ends[0]), snappedPolarDeg(ellipse, ends[1]))
+    const Vec2 start = ellipse.localAt(ends[0]), end = ellipse.localAt(ends[1]);
+    const auto exact = [start, end] {
+        return AngleRange::normalised(snappedDirectionRad(start) * kDegPerRad,
+                                      snappedDirectionRad(end) * kDegPerRad)
             .range;
-    // Once more on purpose: that moves a start below 0 by a rounding.
-    const AngleRange arc = AngleRange::normalised(polar.start, polar.end).range;
+    };
+    const auto holds = [](AngleRange range, double deg) {
+        return isOnArc(range.start, range.end, deg);
+    };
+    const CoarseRange coarse = CoarseRange::of(start, end);
     LineCrossing kept;
     for (std::uint32_t i = 0; i < crossing.count; ++i) {
         const Vec2 point = crossing.points[i];
-        const bool isOnArc = holdsSnappedDirection(point, rotationDeg, arc,
-                                                   [arc](double deg) { return arc.contains(deg); });
-        if (isOnArc) kept.points[kept.count++] = point;
+        if (holdsSnappedDirection(point, rotationDeg, coarse, exact, holds)) {
+            kept.points[kept.count++] = point;
+        }
     }
     return kept;
 }

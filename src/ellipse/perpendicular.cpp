@@ -143,11 +143,10 @@ Feet allFeet(Vec2 p, const DTELLIPSE &e) {
 Feet feetOnArc(Vec2 p, const DTELLIPSE &e) {
     const Feet feet = allFeet(p, e);
     if (feet.count < 1) return feet;
-    const EllipseFrame frame = EllipseFrame::of(e);
-    const AngleRange polar = polarEnds(frame, {e.start, e.end});
+    const EllipticArc arc(EllipseFrame::of(e), e.rot, {e.start, e.end});
     Feet kept;
     for (int i = 0; i < feet.count; ++i) {
-        if (onPolarArc(feet.at[i], frame, e.rot, polar) == OnEllipseArc::yes) {
+        if (arc.holds(feet.at[i]) == OnEllipseArc::yes) {
             kept.at[kept.count++] = feet.at[i];
         }
     }

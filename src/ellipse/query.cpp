@@ -41,28 +41,16 @@ bool inPolarRange(AngleRange range, double directionDeg) {
     return !(theta < first || theta > end + kPolarSlackDeg); // a NaN passes
 }
 
-bool inPolarRange(AngleRange range, Vec2 v, double rotationDeg) {
-    return holdsSnappedDirection(v, rotationDeg, range,
-                                 [range](double deg) { return inPolarRange(range, deg); });
-}
-
 namespace {
 
-/// Polar angle of an arc's end, by pi and 180 and not by the degree constants on purpose: where
-/// start and end are a turn apart the last bit decides which of them is the greater.
-double polarEndDeg(const EllipseFrame &frame, double parameterDeg) {
+/// Ray to an arc's end, by pi and 180 and not by the degree constants on purpose: where start and
+/// end are a turn apart the last bit decides which of them is the greater.
+Vec2 rayToEnd(const EllipseFrame &frame, double parameterDeg) {
     const Rotation parameter = Rotation::ofRadians(parameterDeg * kPi / 180.0);
-    const Vec2 local = {frame.halfFirst * parameter.c, frame.halfSecond * parameter.s};
-    return snappedDirectionRad(local) * 180.0 / kPi;
+    return {frame.halfFirst * parameter.c, frame.halfSecond * parameter.s};
 }
 
-} // namespace
-
-AngleRange polarEnds(const EllipseFrame &frame, AngleRange parameters) {
-    return {polarEndDeg(frame, parameters.start), polarEndDeg(frame, parameters.end)};
-}
-
-namespace {
+double polarEndDeg(Vec2 ray) { return snappedDirectionRad(ray) * 180.0 / kPi; }
 
 /// Whether a point lies on the curve, whatever its direction.
 OnEllipseArc onCurve(Vec2 point, const EllipseFrame &frame, double rotationDeg) {
@@ -75,21 +63,25 @@ OnEllipseArc onCurve(Vec2 point, const EllipseFrame &frame, double rotationDeg) 
 
 } // namespace
 
-OnEllipseArc onPolarArc(Vec2 point, const EllipseFrame &frame, double rotationDeg,
-                        AngleRange polar) {
-    const OnEllipseArc curve = onCurve(point, frame, rotationDeg);
+EllipticArc::EllipticArc(const EllipseFrame &frame, double rotationDeg, AngleRange parameters)
+    : frame_(frame), rotationDeg_(rotationDeg), start_(rayToEnd(frame, parameters.start)),
+      end_(rayToEnd(frame, parameters.end)), coarse_(CoarseRange::of(start_, end_)) {}
+
+OnEllipseArc EllipticArc::holds(Vec2 point) const {
+    const OnEllipseArc curve = onCurve(point, frame_, rotationDeg_);
     if (curve != OnEllipseArc::yes) return curve;
-    return inPolarRange(polar, point - frame.center, rotationDeg) ? OnEllipseArc::yes
-                                                                  : OnEllipseArc::no;
+    const auto exact = [this] { return AngleRange{polarEndDeg(start_), polarEndDeg(end_)}; };
+    const bool isBetween = holdsSnappedDirection(
+        point - frame_.center, rotationDeg_, coarse_, exact,
+        [](AngleRange range, double deg) { return inPolarRange(range, deg); });
+    return isBetween ? OnEllipseArc::yes : OnEllipseArc::no;
 }
 
 OnEllipseArc onEllipseArc(Vec2 point, const EllipseFrame &frame, double rotationDeg,
                           AngleRange parameters) {
     const OnEllipseArc curve = onCurve(point, frame, rotationDeg);
     if (curve != OnEllipseArc::yes) return curve;
-    const AngleRange polar = polarEnds(frame, parameters);
-    return inPolarRange(polar, point - frame.center, rotationDeg) ? OnEllipseArc::yes
-                                                                  : OnEllipseArc::no;
+    return EllipticArc(frame, rotationDeg, parameters).holds(point);
 }
 
 } // namespace planegeo
@@ -169,7 +161,8 @@ int32_t ca_onelp(const DTPOINT *center, double a, double b, double rot, const do
 }
 
 int32_t pin_chk(const DTPOINT *center, double rot, const double *range, const DTPOINT *point) {
-    return inPolarRange({range[0], range[1]}, load(point) - load(center), rot) ? 0 : 1;
+    const double direction = snappedDirectionRad(load(point) - load(center)) * kDegPerRad;
+    return inPolarRange({range[0], range[1]}, direction - rot) ? 0 : 1;
 }
 
 int32_t ca_posel(const DTPOINT *center, double a, double b, double rot, const DTPOINT *point,

@@ -20,8 +20,6 @@ struct FocalSum {
 
 FocalSum focalSum(Vec2 point, const EllipseFrame &frame, double rotationDeg);
 
-/// Whether a polar range holds the direction of a vector, less a rotation.
-bool inPolarRange(AngleRange range, Vec2 v, double rotationDeg);
 /// Whether a polar range holds a direction; both are measured from the same axis and not
 /// reduced. The slack is kPolarSlackDeg; an end below 0 is meant only where the start is too.
 bool inPolarRange(AngleRange range, double directionDeg);
@@ -33,10 +31,17 @@ enum class OnEllipseArc : std::int32_t { yes = 0, no = 1, axisTooShort = -1 };
 OnEllipseArc onEllipseArc(Vec2 point, const EllipseFrame &frame, double rotationDeg,
                           AngleRange parameters);
 
-/// Polar angles of an arc's ends, as onEllipseArc() takes them.
-AngleRange polarEnds(const EllipseFrame &frame, AngleRange parameters);
-/// onEllipseArc() for several points of one arc, given by those.
-OnEllipseArc onPolarArc(Vec2 point, const EllipseFrame &frame, double rotationDeg,
-                        AngleRange polar);
+/// onEllipseArc() for several points of one arc.
+class EllipticArc {
+  public:
+    EllipticArc(const EllipseFrame &frame, double rotationDeg, AngleRange parameters);
+    OnEllipseArc holds(Vec2 point) const;
+
+  private:
+    EllipseFrame frame_;
+    double rotationDeg_;
+    Vec2 start_, end_; ///< rays to the ends, in the frame
+    CoarseRange coarse_;
+};
 
 } // namespace planegeo
