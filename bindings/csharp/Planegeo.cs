@@ -14,7 +14,9 @@ namespace Planegeo
     [StructLayout(LayoutKind.Explicit, Size = 16)]
     public struct DTPOINT
     {
+        /// <summary>drawing units</summary>
         [FieldOffset(0)] public double x;
+        /// <summary>drawing units</summary>
         [FieldOffset(8)] public double y;
     }
 
@@ -22,7 +24,9 @@ namespace Planegeo
     [StructLayout(LayoutKind.Explicit, Size = 16)]
     public struct DTCOMPLEX
     {
+        /// <summary>real part</summary>
         [FieldOffset(0)] public double re;
+        /// <summary>imaginary part</summary>
         [FieldOffset(8)] public double im;
     }
 
@@ -32,9 +36,13 @@ namespace Planegeo
     {
         /// <summary>the host's attribute word</summary>
         [FieldOffset(0)] public uint attr;
+        /// <summary>first point</summary>
         [FieldOffset(8)] public double x1;
+        /// <summary>first point</summary>
         [FieldOffset(16)] public double y1;
+        /// <summary>second point</summary>
         [FieldOffset(24)] public double x2;
+        /// <summary>second point</summary>
         [FieldOffset(32)] public double y2;
     }
 
@@ -46,6 +54,7 @@ namespace Planegeo
         [FieldOffset(0)] public uint attr;
         /// <summary>centre</summary>
         [FieldOffset(8)] public double cx;
+        /// <summary>centre</summary>
         [FieldOffset(16)] public double cy;
         /// <summary>radius</summary>
         [FieldOffset(24)] public double r;
@@ -67,6 +76,7 @@ namespace Planegeo
         [FieldOffset(0)] public uint attr;
         /// <summary>centre</summary>
         [FieldOffset(8)] public double cx;
+        /// <summary>centre</summary>
         [FieldOffset(16)] public double cy;
         /// <summary>full length of the first axis</summary>
         [FieldOffset(24)] public double a;
@@ -107,7 +117,8 @@ namespace Planegeo
 
         // ---- Settings
 
-        /// <summary>Returns the distance tolerance errdist in drawing units; 1e-6 at load.</summary>
+        /// <summary>Returns the distance tolerance errdist.</summary>
+        /// <returns>drawing units; 1e-6 at load</returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern double ca_geterrdist();
 
@@ -121,7 +132,8 @@ namespace Planegeo
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern void ca_seterrdist(double tolerance);
 
-        /// <summary>Returns the flag of ca_SetStartendFlg(); 0 at load.</summary>
+        /// <summary>Returns the flag of ca_SetStartendFlg().</summary>
+        /// <returns>the flag as it was set; 0 at load</returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ca_GetStartendFlg();
 
@@ -133,54 +145,64 @@ namespace Planegeo
         public static extern void ca_SetStartendFlg(int flag);
 
         /// <summary>
-        /// Returns the parameter table of the Simpson integrands: ten doubles, zero at load, the same
-        /// address at every call. The library reads it and never writes it.
+        /// Returns the parameter table of the Simpson integrands: ten doubles, zero at load. The
+        /// library reads it and never writes it.
         /// </summary>
         /// <remarks>
         /// The host stores half the first axis in slot 0 and half the second in slot 1 before it
         /// measures an ellipse; slots 2 to 9 are free for integrands of its own. The table is shared by
         /// all threads: do not measure two ellipses at once.
         /// </remarks>
+        /// <returns>the address of the table, the same at every call</returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern IntPtr ca_Simpson_getParmtbl();
 
         // ---- Degree trigonometry and angle ranges
 
-        /// <summary>Returns the sine of an angle in degrees.</summary>
+        /// <summary>Returns the sine of an angle.</summary>
+        /// <param name="deg">degrees</param>
+        /// <returns>[-1, 1]</returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern double sind(double deg);
 
-        /// <summary>Returns the cosine of an angle in degrees.</summary>
+        /// <summary>Returns the cosine of an angle.</summary>
+        /// <param name="deg">degrees</param>
+        /// <returns>[-1, 1]</returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern double cosd(double deg);
 
-        /// <summary>
-        /// Returns the tangent of an angle in degrees; near 90 and 270 a huge value, not an infinity.
-        /// </summary>
+        /// <summary>Returns the tangent of an angle.</summary>
+        /// <param name="deg">degrees</param>
+        /// <returns>the tangent; near 90 and 270 a huge value, not an infinity</returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern double tand(double deg);
 
-        /// <summary>
-        /// Returns the arc sine in degrees, [-90, 90]; v is first clamped to [-1, 1].
-        /// </summary>
+        /// <summary>Returns the arc sine.</summary>
+        /// <param name="v">first clamped to [-1, 1]</param>
+        /// <returns>degrees, [-90, 90]</returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern double asind(double v);
 
-        /// <summary>
-        /// Returns the arc cosine in degrees, [0, 180]; v is first clamped to [-1, 1].
-        /// </summary>
+        /// <summary>Returns the arc cosine.</summary>
+        /// <param name="v">first clamped to [-1, 1]</param>
+        /// <returns>degrees, [0, 180]</returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern double acosd(double v);
 
-        /// <summary>Returns the arc tangent in degrees, [-90, 90].</summary>
+        /// <summary>Returns the arc tangent.</summary>
+        /// <param name="v">any number</param>
+        /// <returns>degrees, [-90, 90]</returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern double atand(double v);
 
-        /// <summary>
-        /// Returns the direction of the vector (x, y) in degrees, [0, 360]; 0 when both are zero. A
-        /// direction so little below the x axis that it rounds up gives exactly 360; a negative zero
+        /// <summary>Returns the direction of the vector (x, y).</summary>
+        /// <remarks>
+        /// A direction so little below the x axis that it rounds up gives exactly 360; a negative zero
         /// passes through.
-        /// </summary>
+        /// </remarks>
+        /// <param name="y">components of the vector, y first</param>
+        /// <param name="x">components of the vector, y first</param>
+        /// <returns>degrees, [0, 360]; 0 when both are zero</returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern double atan2d(double y, double x);
 
@@ -286,17 +308,23 @@ namespace Planegeo
         public static extern int ca_vmpnt([In] ref DTPOINT line_p1, [In] ref DTPOINT line_p2, [In]
             ref DTPOINT point, out DTPOINT @out);
 
-        /// <summary>Returns the direction from one point to another in radians, [0, 2 pi].</summary>
+        /// <summary>Returns the direction from one point to another in radians.</summary>
         /// <remarks>
         /// A component shorter than 1e-7 counts as zero: directions so close to an axis snap onto 0,
         /// pi/2, pi or 3 pi/2, and points so close to each other give 0.
         /// </remarks>
+        /// <param name="from">the points</param>
+        /// <param name="to">the points</param>
+        /// <returns>radians, [0, 2 pi]</returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern double ca_vcrad([In] ref DTPOINT from, [In] ref DTPOINT to);
 
         /// <summary>
         /// Returns the distance of two points, the plain root of the sum of squares.
         /// </summary>
+        /// <param name="p">the points</param>
+        /// <param name="q">the points</param>
+        /// <returns>drawing units</returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern double ca_dstpt([In] ref DTPOINT p, [In] ref DTPOINT q);
 
@@ -580,9 +608,16 @@ namespace Planegeo
             DTPOINT center, double r, [In] double[] angles, out DTPOINT out1, out DTPOINT out2, out
             ushort count);
 
-        /// <summary>
-        /// Intersects a segment with an arc: a2d_lin_arc() in mode 3, with its result.
-        /// </summary>
+        /// <summary>Intersects a segment with an arc, as a2d_lin_arc() in mode 3.</summary>
+        /// <param name="a1">the segment and the arc</param>
+        /// <param name="a2">the segment and the arc</param>
+        /// <param name="center">the segment and the arc</param>
+        /// <param name="r">the segment and the arc</param>
+        /// <param name="angles">the segment and the arc</param>
+        /// <param name="out1">as there</param>
+        /// <param name="out2">as there</param>
+        /// <param name="count">as there</param>
+        /// <returns>as there: 0 done, with or without points; 1 invalid input</returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ca_inslc([In] ref DTPOINT a1, [In] ref DTPOINT a2, [In] ref DTPOINT
             center, double r, [In] double[] angles, out DTPOINT out1, out DTPOINT out2, out ushort
@@ -594,9 +629,16 @@ namespace Planegeo
             DTPOINT center, double r, [In] double[] angles, out DTPOINT out1, out DTPOINT out2, out
             ushort count);
 
-        /// <summary>
-        /// Intersects an infinite line with an arc: a2d_lin_arc() in mode 1, with its result.
-        /// </summary>
+        /// <summary>Intersects an infinite line with an arc, as a2d_lin_arc() in mode 1.</summary>
+        /// <param name="a1">the line and the arc</param>
+        /// <param name="a2">the line and the arc</param>
+        /// <param name="center">the line and the arc</param>
+        /// <param name="r">the line and the arc</param>
+        /// <param name="angles">the line and the arc</param>
+        /// <param name="out1">as there</param>
+        /// <param name="out2">as there</param>
+        /// <param name="count">as there</param>
+        /// <returns>as there: 0 done, with or without points; 1 invalid input</returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int sb_inslc([In] ref DTPOINT a1, [In] ref DTPOINT a2, [In] ref DTPOINT
             center, double r, [In] double[] angles, out DTPOINT out1, out DTPOINT out2, out ushort
@@ -871,6 +913,7 @@ namespace Planegeo
         /// A run takes in the segments whose direction differs from that of its first one by at most
         /// tol (plus errdist, taken as degrees); the points between its ends are removed. Directions in
         /// (-180, 180] are subtracted as they are: 179 and -179 do not merge.
+        /// Cost: one pass over the points.
         /// </remarks>
         /// <param name="n">
         /// number of points in the array, which is not checked; below 3, also negative, it is returned
@@ -1017,10 +1060,12 @@ namespace Planegeo
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int amaSolveEquationOf4thD([In] double[] c, [In, Out] double[] @out);
 
-        /// <summary>
-        /// Returns the principal square root of a complex number: the real part is not negative, the
-        /// imaginary part has the sign of z's. A negative real number gives a positive imaginary root.
-        /// </summary>
+        /// <summary>Returns the principal square root of a complex number.</summary>
+        /// <param name="z">any number</param>
+        /// <returns>
+        /// the root: its real part is not negative, its imaginary part has the sign of that of z. A
+        /// negative real number gives a positive imaginary root
+        /// </returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern DTCOMPLEX ama_c_sqrt(DTCOMPLEX z);
 
@@ -1034,6 +1079,7 @@ namespace Planegeo
         /// so that polynomials with large coefficients are left early. Where the slope is exactly zero
         /// a step of second order is made; where that has no real value the step is zero, and the
         /// stationary point counts as the root.
+        /// Cost: at most 200 steps, each in proportion to n.
         /// </remarks>
         /// <param name="c">n + 1 coefficients</param>
         /// <param name="n">degree, 2 to 200</param>
@@ -1049,6 +1095,7 @@ namespace Planegeo
         /// Not reliable above: the best residual is never reset, and a factor may be found twice. All
         /// roots were right, mirrored ones aside, for 97 % of polynomials with random coefficients of
         /// degree 5, 63 % of degree 6, 7 % of degree 10, none of degree 19. Take amaDKA() there.
+        /// Cost: at most 100 steps for each factor, each in proportion to the degree left.
         /// </remarks>
         /// <param name="c">n + 1 coefficients</param>
         /// <param name="n">degree, 1 to 200</param>
@@ -1074,6 +1121,7 @@ namespace Planegeo
         /// themselves bit by bit are carried to its end at once; without that, 10^7 / (n (n + 16))
         /// sweeps, but at least 1000, are as a budget used up. A NaN does not count as a large value:
         /// where all are NaN, as with c[2] to c[n] all zero, so are the roots, and the result is 0.
+        /// Cost: some n (n + 16) complex products a sweep.
         /// </remarks>
         /// <param name="c">n + 1 coefficients; c[1] to c[n] are divided by c[0]</param>
         /// <param name="n">
@@ -1444,6 +1492,9 @@ namespace Planegeo
         /// The Simpson rule starts with an interval per degree (at least 4, an even count) and halves
         /// them until two sums differ by at most 1e-6, absolutely, or the interval falls below 0.001
         /// degrees. A range below 0.004 degrees gives 0.
+        /// Cost: a call of the integrand per degree at first, and as many again as there were with each
+        /// halving; the library's own integrands are summed in closed form, unless the axes are too
+        /// unlike for it.
         /// </remarks>
         /// <param name="integrand">
         /// called at the lower limit, at the upper limit, then at all interior points of each pass in
@@ -1468,6 +1519,7 @@ namespace Planegeo
         /// The limit moves by 10 degrees at first (by 5 if the range is too short) and by half as much
         /// after each change of direction. Each range is integrated as by ca_Simpson(); one whose lower
         /// limit has passed the upper counts as 0, so does one that did not settle.
+        /// Cost: that of ca_Simpson() for each range on the way.
         /// </remarks>
         /// <param name="integrand">see ca_Simpson()</param>
         /// <param name="lower">
@@ -1495,6 +1547,7 @@ namespace Planegeo
         /// quarter turns and for circles. A span above 359.999999 degrees is the whole turn, equal ends
         /// are an empty arc. The directions lie in [0, 360], so a whole turn is safe as (0, 360) only;
         /// see docs/behaviours.md.
+        /// Cost: that of ca_Simpson() with the library's own integrand.
         /// </remarks>
         /// <param name="ellipse">
         /// start, end and the ratio of the axes are read; the size comes from the parameter table
@@ -1509,6 +1562,7 @@ namespace Planegeo
         /// Unlike ca_ElpLen() this integrates between the parametric angles. The search is that of
         /// ca_Simpson2(); the range found is then brought to an end of at most 360, one above
         /// 359.999999 degrees to (0, 360), and of it the moved angle is stored.
+        /// Cost: that of ca_Simpson2() with the library's own integrand.
         /// </remarks>
         /// <param name="ellipse">
         /// start and end are read, the moved one is written; the half axes come from the parameter
@@ -1608,6 +1662,8 @@ namespace Planegeo
         /// the way, there square to the axis. Each quadrant has as few arcs as such a chain allows, and
         /// their number once fixed, the distance is made as small as it can be. Axes that differ by at
         /// most 2 tol give a whole ellipse as one circle.
+        /// Cost: in proportion to the number of arcs, some tenfold for a tolerance a thousand times
+        /// finer.
         /// </remarks>
         /// <param name="center">
         /// the arc; start and end equal after reduction are the whole turn, which is closed and begins
@@ -1669,6 +1725,8 @@ namespace Planegeo
         /// 1e-8, and whose n is equal: the piece length and the angle come from it, centre, axes and
         /// rotation from the call. Any other arc replaces it. A table is never shared: do not divide on
         /// two threads at once.
+        /// Cost: the first call takes memory for n doubles, and time in proportion to n or, where
+        /// pieces are short, to the number of steps; the others are constant.
         /// </remarks>
         /// <param name="center">the ellipse: full axis lengths, degrees</param>
         /// <param name="a">the ellipse: full axis lengths, degrees</param>
@@ -1699,6 +1757,7 @@ namespace Planegeo
         /// length, and only the point k = n reaches the end. Within a degree the point is placed by a
         /// rule of its own, which is not the interpolation along the segment; it may be off by a
         /// degree.
+        /// Cost: constant, at most 362 samples.
         /// </remarks>
         /// <param name="center">the ellipse: full axis lengths, degrees</param>
         /// <param name="a">the ellipse: full axis lengths, degrees</param>
@@ -2175,6 +2234,8 @@ namespace Planegeo
         /// <summary>
         /// As a2dEllpsPerPnts(), with only the feet that lie on the arc by ca_onelp().
         /// </summary>
+        /// <param name="p">the point and the arc</param>
+        /// <param name="e">the point and the arc</param>
         /// <param name="out">array of 4; untouched beyond the result</param>
         /// <returns>number of feet on the arc, 0 to 4; -1 and -2 as there</returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
@@ -2207,6 +2268,8 @@ namespace Planegeo
         /// within errdist. A circle's points are kept by a2d_lin_arc() in mode 1, with start and end
         /// raised by the rotation.
         /// </summary>
+        /// <param name="p">the point and the arc</param>
+        /// <param name="e">the point and the arc</param>
         /// <param name="out">
         /// array of 4; cleared first for 0 and 360 only; both of the first two are written for a
         /// circle, as a2d_lin_arc() does
@@ -2379,6 +2442,7 @@ namespace Planegeo
         /// earlier sample counts. The end itself is a sample only where whole degrees, or then tenths,
         /// lead to it. Equal start and end are that one point, except for a point on the whole ellipse
         /// with both 0 (see ca_onelp()).
+        /// Cost: constant, at most 364 samples and then 21, of which most are ruled out unseen.
         /// </remarks>
         /// <param name="center">the ellipse</param>
         /// <param name="a">the ellipse</param>
@@ -2399,6 +2463,13 @@ namespace Planegeo
             rot, [In] double[] angles, [In] ref DTPOINT p, out DTPOINT @out);
 
         /// <summary>Returns the distance of ca_dstpp() alone.</summary>
+        /// <param name="center">the arc and the point</param>
+        /// <param name="a">the arc and the point</param>
+        /// <param name="b">the arc and the point</param>
+        /// <param name="rot">the arc and the point</param>
+        /// <param name="angles">the arc and the point</param>
+        /// <param name="p">the arc and the point</param>
+        /// <returns>as there</returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern double ca_dstpe([In] ref DTPOINT center, double a, double b, double
             rot, [In] double[] angles, [In] ref DTPOINT p);
@@ -2425,6 +2496,13 @@ namespace Planegeo
             rot, [In] double[] angles, [In] ref DTPOINT p, out DTPOINT @out);
 
         /// <summary>Returns the distance of a2d_dstpp() alone.</summary>
+        /// <param name="center">the arc and the point</param>
+        /// <param name="a">the arc and the point</param>
+        /// <param name="b">the arc and the point</param>
+        /// <param name="rot">the arc and the point</param>
+        /// <param name="angles">the arc and the point</param>
+        /// <param name="p">the arc and the point</param>
+        /// <returns>as there</returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern double a2d_dstpe([In] ref DTPOINT center, double a, double b, double
             rot, [In] double[] angles, [In] ref DTPOINT p);

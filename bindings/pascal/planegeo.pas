@@ -23,15 +23,15 @@ const
 type
   // A point or vector.
   DTPOINT = record
-    x: Double;
-    y: Double;
+    x: Double; // drawing units
+    y: Double; // drawing units
   end;
   PDTPOINT = ^DTPOINT;
 
   // A complex number.
   DTCOMPLEX = record
-    re: Double;
-    im: Double;
+    re: Double; // real part
+    im: Double; // imaginary part
   end;
   PDTCOMPLEX = ^DTCOMPLEX;
 
@@ -39,10 +39,10 @@ type
   DTLINE = packed record
     attr: Cardinal; // the host's attribute word
     gap4: array[0..3] of Byte;
-    x1: Double;
-    y1: Double;
-    x2: Double;
-    y2: Double;
+    x1: Double; // first point
+    y1: Double; // first point
+    x2: Double; // second point
+    y2: Double; // second point
   end;
   PDTLINE = ^DTLINE;
 
@@ -51,7 +51,7 @@ type
     attr: Cardinal; // the host's attribute word
     gap4: array[0..3] of Byte;
     cx: Double; // centre
-    cy: Double;
+    cy: Double; // centre
     r: Double; // radius
     start: Double; // degrees
     end_: Double; // degrees
@@ -65,7 +65,7 @@ type
     attr: Cardinal; // the host's attribute word
     gap4: array[0..3] of Byte;
     cx: Double; // centre
-    cy: Double;
+    cy: Double; // centre
     a: Double; // full length of the first axis
     b: Double; // full length of the second axis
     start: Double; // parametric angle, degrees
@@ -89,7 +89,8 @@ const
 
 // ---- Settings
 
-// Returns the distance tolerance errdist in drawing units; 1e-6 at load.
+// Returns the distance tolerance errdist.
+//   Result: drawing units; 1e-6 at load
 function ca_geterrdist: Double; cdecl; external library_name name 'ca_geterrdist';
 
 // Sets the distance tolerance errdist.
@@ -100,7 +101,8 @@ function ca_geterrdist: Double; cdecl; external library_name name 'ca_geterrdist
 //   tolerance (in): drawing units
 procedure ca_seterrdist(tolerance: Double); cdecl; external library_name name 'ca_seterrdist';
 
-// Returns the flag of ca_SetStartendFlg(); 0 at load.
+// Returns the flag of ca_SetStartendFlg().
+//   Result: the flag as it was set; 0 at load
 function ca_GetStartendFlg: Integer; cdecl; external library_name name 'ca_GetStartendFlg';
 
 // Chooses which end of an element a2d_InsDl(), a2d_InsDc() and a2d_InsDe() keep.
@@ -108,38 +110,54 @@ function ca_GetStartendFlg: Integer; cdecl; external library_name name 'ca_GetSt
 procedure ca_SetStartendFlg(flag: Integer); cdecl; external library_name name
   'ca_SetStartendFlg';
 
-// Returns the parameter table of the Simpson integrands: ten doubles, zero at load, the same
-// address at every call. The library reads it and never writes it.
+// Returns the parameter table of the Simpson integrands: ten doubles, zero at load. The library
+// reads it and never writes it.
 //
 // The host stores half the first axis in slot 0 and half the second in slot 1 before it measures
 // an ellipse; slots 2 to 9 are free for integrands of its own. The table is shared by all threads:
 // do not measure two ellipses at once.
+//   Result: the address of the table, the same at every call
 function ca_Simpson_getParmtbl: PDouble; cdecl; external library_name name
   'ca_Simpson_getParmtbl';
 
 // ---- Degree trigonometry and angle ranges
 
-// Returns the sine of an angle in degrees.
+// Returns the sine of an angle.
+//   deg (in): degrees
+//   Result: [-1, 1]
 function sind(deg: Double): Double; cdecl; external library_name name 'sind';
 
-// Returns the cosine of an angle in degrees.
+// Returns the cosine of an angle.
+//   deg (in): degrees
+//   Result: [-1, 1]
 function cosd(deg: Double): Double; cdecl; external library_name name 'cosd';
 
-// Returns the tangent of an angle in degrees; near 90 and 270 a huge value, not an infinity.
+// Returns the tangent of an angle.
+//   deg (in): degrees
+//   Result: the tangent; near 90 and 270 a huge value, not an infinity
 function tand(deg: Double): Double; cdecl; external library_name name 'tand';
 
-// Returns the arc sine in degrees, [-90, 90]; v is first clamped to [-1, 1].
+// Returns the arc sine.
+//   v (in): first clamped to [-1, 1]
+//   Result: degrees, [-90, 90]
 function asind(v: Double): Double; cdecl; external library_name name 'asind';
 
-// Returns the arc cosine in degrees, [0, 180]; v is first clamped to [-1, 1].
+// Returns the arc cosine.
+//   v (in): first clamped to [-1, 1]
+//   Result: degrees, [0, 180]
 function acosd(v: Double): Double; cdecl; external library_name name 'acosd';
 
-// Returns the arc tangent in degrees, [-90, 90].
+// Returns the arc tangent.
+//   v (in): any number
+//   Result: degrees, [-90, 90]
 function atand(v: Double): Double; cdecl; external library_name name 'atand';
 
-// Returns the direction of the vector (x, y) in degrees, [0, 360]; 0 when both are zero. A
-// direction so little below the x axis that it rounds up gives exactly 360; a negative zero passes
-// through.
+// Returns the direction of the vector (x, y).
+//
+// A direction so little below the x axis that it rounds up gives exactly 360; a negative zero
+// passes through.
+//   y, x (in): components of the vector, y first
+//   Result: degrees, [0, 360]; 0 when both are zero
 function atan2d(y: Double; x: Double): Double; cdecl; external library_name name 'atan2d';
 
 // Normalises the range of an arc in place.
@@ -217,14 +235,18 @@ function pnt_mer(point: PDTPOINT; line_p1: PDTPOINT; line_p2: PDTPOINT; var out_
 function ca_vmpnt(line_p1: PDTPOINT; line_p2: PDTPOINT; point: PDTPOINT; var out_: DTPOINT):
   Integer; cdecl; external library_name name 'ca_vmpnt';
 
-// Returns the direction from one point to another in radians, [0, 2 pi].
+// Returns the direction from one point to another in radians.
 //
 // A component shorter than 1e-7 counts as zero: directions so close to an axis snap onto 0, pi/2,
 // pi or 3 pi/2, and points so close to each other give 0.
+//   from, to_ (in): the points
+//   Result: radians, [0, 2 pi]
 function ca_vcrad(from: PDTPOINT; to_: PDTPOINT): Double; cdecl; external library_name name
   'ca_vcrad';
 
 // Returns the distance of two points, the plain root of the sum of squares.
+//   p, q (in): the points
+//   Result: drawing units
 function ca_dstpt(p: PDTPOINT; q: PDTPOINT): Double; cdecl; external library_name name
   'ca_dstpt';
 
@@ -410,7 +432,10 @@ function ca_crslc2(a1: PDTPOINT; a2: PDTPOINT; center: PDTPOINT; r: Double; angl
   out1: DTPOINT; var out2: DTPOINT; var count: Word): Integer; cdecl; external library_name name
   'ca_crslc2';
 
-// Intersects a segment with an arc: a2d_lin_arc() in mode 3, with its result.
+// Intersects a segment with an arc, as a2d_lin_arc() in mode 3.
+//   a1, a2, center, r, angles (in): the segment and the arc
+//   out1, out2, count (out): as there
+//   Result: as there: 0 done, with or without points; 1 invalid input
 function ca_inslc(a1: PDTPOINT; a2: PDTPOINT; center: PDTPOINT; r: Double; angles: PDouble; var
   out1: DTPOINT; var out2: DTPOINT; var count: Word): Integer; cdecl; external library_name name
   'ca_inslc';
@@ -420,7 +445,11 @@ function a2d_inslc(a1: PDTPOINT; a2: PDTPOINT; center: PDTPOINT; r: Double; angl
   out1: DTPOINT; var out2: DTPOINT; var count: Word): Integer; cdecl; external library_name name
   'a2d_inslc';
 
-// Intersects an infinite line with an arc: a2d_lin_arc() in mode 1, with its result.
+// Intersects an infinite line with an arc, as a2d_lin_arc() in mode 1.
+//   a1, a2, center, r, angles (in): the line and the arc
+//   out1, out2, count (out): as there
+//   Result: as there: 0 done, with or without points; 1 invalid input
+//   See also: ca_crslc2, the same with another result
 function sb_inslc(a1: PDTPOINT; a2: PDTPOINT; center: PDTPOINT; r: Double; angles: PDouble; var
   out1: DTPOINT; var out2: DTPOINT; var count: Word): Integer; cdecl; external library_name name
   'sb_inslc';
@@ -597,6 +626,8 @@ function a2d_InsDc(elem: PDTARC; cut: PDTARC; var out_: DTPOINT): Integer; cdecl
 // A run takes in the segments whose direction differs from that of its first one by at most tol
 // (plus errdist, taken as degrees); the points between its ends are removed. Directions in (-180,
 // 180] are subtracted as they are: 179 and -179 do not merge.
+//
+// Cost: one pass over the points.
 //   n (in): number of points in the array, which is not checked; below 3, also negative, it is
 //     returned as it is
 //   list (in,out): address of the address of n points; those kept move to the front in their
@@ -684,8 +715,10 @@ function amaSolveEquationOf3rdD(c: PDouble; out_: PDouble): Integer; cdecl; exte
 function amaSolveEquationOf4thD(c: PDouble; out_: PDouble): Integer; cdecl; external
   library_name name 'amaSolveEquationOf4thD';
 
-// Returns the principal square root of a complex number: the real part is not negative, the
-// imaginary part has the sign of z's. A negative real number gives a positive imaginary root.
+// Returns the principal square root of a complex number.
+//   z (in): any number
+//   Result: the root: its real part is not negative, its imaginary part has the sign of that of z.
+//     A negative real number gives a positive imaginary root
 function ama_c_sqrt(z: DTCOMPLEX): DTCOMPLEX; cdecl; external library_name name 'ama_c_sqrt';
 
 // Searches one real root by Newton's method, from minus the sum of the coefficients over n + 1.
@@ -695,6 +728,8 @@ function ama_c_sqrt(z: DTCOMPLEX): DTCOMPLEX; cdecl; external library_name name 
 // with large coefficients are left early. Where the slope is exactly zero a step of second order
 // is made; where that has no real value the step is zero, and the stationary point counts as the
 // root.
+//
+// Cost: at most 200 steps, each in proportion to n.
 //   c (in): n + 1 coefficients
 //   n (in): degree, 2 to 200
 //   x (out): the root, the last iterate when the result is -2; untouched when -1
@@ -707,6 +742,8 @@ function amaNewtonRaphson(c: PDouble; n: Integer; var x: Double): Integer; cdecl
 // Not reliable above: the best residual is never reset, and a factor may be found twice. All roots
 // were right, mirrored ones aside, for 97 % of polynomials with random coefficients of degree 5,
 // 63 % of degree 6, 7 % of degree 10, none of degree 19. Take amaDKA() there.
+//
+// Cost: at most 100 steps for each factor, each in proportion to the degree left.
 //   c (in): n + 1 coefficients
 //   n (in): degree, 1 to 200
 //   out_ (out): n pairs; degree 1: one double. Above degree 4 the last factor comes first, the
@@ -725,6 +762,8 @@ function amaBairstaw(c: PDouble; n: Integer; out_: PDouble): Integer; cdecl; ext
 // themselves bit by bit are carried to its end at once; without that, 10^7 / (n (n + 16)) sweeps,
 // but at least 1000, are as a budget used up. A NaN does not count as a large value: where all are
 // NaN, as with c[2] to c[n] all zero, so are the roots, and the result is 0.
+//
+// Cost: some n (n + 16) complex products a sweep.
 //   c (in,out): n + 1 coefficients; c[1] to c[n] are divided by c[0]
 //   n (in): degree, up to 200; below 1 nothing is written, and the result is 0 if eps > 0 and
 //     maxiter >= 0, else -1
@@ -968,6 +1007,10 @@ function ca_AreaElp(deg: Double; var value: Double): Integer; cdecl; external li
 // The Simpson rule starts with an interval per degree (at least 4, an even count) and halves them
 // until two sums differ by at most 1e-6, absolutely, or the interval falls below 0.001 degrees. A
 // range below 0.004 degrees gives 0.
+//
+// Cost: a call of the integrand per degree at first, and as many again as there were with each
+// halving; the library's own integrands are summed in closed form, unless the axes are too unlike
+// for it.
 //   integrand (in): called at the lower limit, at the upper limit, then at all interior points of
 //     each pass in rising order; the library may evaluate its own integrands by other means
 //   lower, upper (in): degrees
@@ -984,6 +1027,8 @@ function ca_Simpson(integrand: PLANEGEO_INTEGRAND; lower: Double; upper: Double;
 // The limit moves by 10 degrees at first (by 5 if the range is too short) and by half as much
 // after each change of direction. Each range is integrated as by ca_Simpson(); one whose lower
 // limit has passed the upper counts as 0, so does one that did not settle.
+//
+// Cost: that of ca_Simpson() for each range on the way.
 //   integrand (in): see ca_Simpson()
 //   lower, upper (in,out): degrees; only the moved one is written, and only when the value was
 //     found
@@ -1003,6 +1048,8 @@ function ca_Simpson2(integrand: PLANEGEO_INTEGRAND; var lower: Double; var upper
 // turns and for circles. A span above 359.999999 degrees is the whole turn, equal ends are an
 // empty arc. The directions lie in [0, 360], so a whole turn is safe as (0, 360) only; see
 // docs/behaviours.md.
+//
+// Cost: that of ca_Simpson() with the library's own integrand.
 //   ellipse (in): start, end and the ratio of the axes are read; the size comes from the parameter
 //     table
 //   length (out): within about 1e-6; 0 for an arc below 0.004 degrees
@@ -1015,6 +1062,8 @@ function ca_ElpLen(ellipse: PDTELLIPSE; var length: Double): Integer; cdecl; ext
 // Unlike ca_ElpLen() this integrates between the parametric angles. The search is that of
 // ca_Simpson2(); the range found is then brought to an end of at most 360, one above 359.999999
 // degrees to (0, 360), and of it the moved angle is stored.
+//
+// Cost: that of ca_Simpson2() with the library's own integrand.
 //   ellipse (in,out): start and end are read, the moved one is written; the half axes come from
 //     the parameter table
 //   wanted (in): length, drawing units, reached within 1e-6
@@ -1073,6 +1122,8 @@ function ca_elip1(center: PDTPOINT; a: Double; b: Double; rot: Double; angles: P
 // there square to the axis. Each quadrant has as few arcs as such a chain allows, and their number
 // once fixed, the distance is made as small as it can be. Axes that differ by at most 2 tol give a
 // whole ellipse as one circle.
+//
+// Cost: in proportion to the number of arcs, some tenfold for a tolerance a thousand times finer.
 //   center, a, b, rot, angles (in): the arc; start and end equal after reduction are the whole
 //     turn, which is closed and begins at the end of an axis at or before the start
 //   tol (in): drawing units; more than half the shorter axis counts as that
@@ -1099,6 +1150,9 @@ function ca_elip2(center: PDTPOINT; a: Double; b: Double; rot: Double; angles: P
 // whose n is equal: the piece length and the angle come from it, centre, axes and rotation from
 // the call. Any other arc replaces it. A table is never shared: do not divide on two threads at
 // once.
+//
+// Cost: the first call takes memory for n doubles, and time in proportion to n or, where pieces
+// are short, to the number of steps; the others are constant.
 //   center, a, b, rot (in): the ellipse: full axis lengths, degrees
 //   angles (in): start and end; a span below 0.004 degrees gives a length of 0 and the end as
 //     every point
@@ -1119,6 +1173,8 @@ function a2d_elpdn(center: PDTPOINT; a: Double; b: Double; rot: Double; angles: 
 // Only whole degrees from the start count: the arc beyond the last of them is left out of the
 // length, and only the point k = n reaches the end. Within a degree the point is placed by a rule
 // of its own, which is not the interpolation along the segment; it may be off by a degree.
+//
+// Cost: constant, at most 362 samples.
 //   center, a, b, rot (in): the ellipse: full axis lengths, degrees
 //   angles (in): start and end, no more than 361 degrees apart
 //   n, k (in): number of pieces and of the point, 1 <= k <= n
@@ -1409,6 +1465,7 @@ function a2dEllpsPerPnts(p: PDTPOINT; e: PDTELLIPSE; out_: PDTPOINT): Integer; c
   library_name name 'a2dEllpsPerPnts';
 
 // As a2dEllpsPerPnts(), with only the feet that lie on the arc by ca_onelp().
+//   p, e (in): the point and the arc
 //   out_ (out): array of 4; untouched beyond the result
 //   Result: number of feet on the arc, 0 to 4; -1 and -2 as there
 function a2dEllpsArcPerPnts(p: PDTPOINT; e: PDTELLIPSE; out_: PDTPOINT): Integer; cdecl;
@@ -1433,6 +1490,7 @@ function a2d_PerEP(p: PDTPOINT; e: PDTELLIPSE; out_: PDTPOINT; var count: Cardin
 // As a2d_PerEP(), for an arc: by a2dEllpsArcPerPnts(), unless start and end are 0 and 360 within
 // errdist. A circle's points are kept by a2d_lin_arc() in mode 1, with start and end raised by the
 // rotation.
+//   p, e (in): the point and the arc
 //   out_ (out): array of 4; cleared first for 0 and 360 only; both of the first two are written
 //     for a circle, as a2d_lin_arc() does
 //   count (out): number of points, 0 where a circle's arc holds none; untouched when the result is
@@ -1534,6 +1592,8 @@ function a2d_distpe(p: PDTPOINT; e: PDTELLIPSE): Integer; cdecl; external librar
 // earlier sample counts. The end itself is a sample only where whole degrees, or then tenths, lead
 // to it. Equal start and end are that one point, except for a point on the whole ellipse with both
 // 0 (see ca_onelp()).
+//
+// Cost: constant, at most 364 samples and then 21, of which most are ruled out unseen.
 //   center, a, b, rot (in): the ellipse
 //   angles (in): start and end, degrees; a start above the end means an arc through 0; of a span
 //     beyond a turn the first 363 degrees are sampled; the step ends where it no longer changes
@@ -1547,6 +1607,8 @@ function ca_dstpp(center: PDTPOINT; a: Double; b: Double; rot: Double; angles: P
   PDTPOINT; var out_: DTPOINT): Double; cdecl; external library_name name 'ca_dstpp';
 
 // Returns the distance of ca_dstpp() alone.
+//   center, a, b, rot, angles, p (in): the arc and the point
+//   Result: as there
 function ca_dstpe(center: PDTPOINT; a: Double; b: Double; rot: Double; angles: PDouble; p:
   PDTPOINT): Double; cdecl; external library_name name 'ca_dstpe';
 
@@ -1566,6 +1628,8 @@ function a2d_dstpp(center: PDTPOINT; a: Double; b: Double; rot: Double; angles: 
   PDTPOINT; var out_: DTPOINT): Double; cdecl; external library_name name 'a2d_dstpp';
 
 // Returns the distance of a2d_dstpp() alone.
+//   center, a, b, rot, angles, p (in): the arc and the point
+//   Result: as there
 function a2d_dstpe(center: PDTPOINT; a: Double; b: Double; rot: Double; angles: PDouble; p:
   PDTPOINT): Double; cdecl; external library_name name 'a2d_dstpe';
 

@@ -23,6 +23,10 @@ class DTLINE(_convert.Record):
 
     Attributes:
         attr: the host's attribute word
+        x1: first point
+        y1: first point
+        x2: second point
+        y2: second point
     """
 
     _fields_ = [
@@ -56,6 +60,7 @@ class DTARC(_convert.Record):
     Attributes:
         attr: the host's attribute word
         cx: centre
+        cy: centre
         r: radius
         start: degrees
         end: degrees
@@ -97,6 +102,7 @@ class DTELLIPSE(_convert.Record):
     Attributes:
         attr: the host's attribute word
         cx: centre
+        cy: centre
         a: full length of the first axis
         b: full length of the second axis
         start: parametric angle, degrees
@@ -152,7 +158,11 @@ _PLANEGEO_INTEGRAND = ctypes.CFUNCTYPE(
 
 
 def ca_geterrdist() -> float:
-    """Returns the distance tolerance errdist in drawing units; 1e-6 at load."""
+    """Returns the distance tolerance errdist.
+
+    Returns:
+        drawing units; 1e-6 at load
+    """
     return float(_lib.ca_geterrdist())
 
 
@@ -170,7 +180,11 @@ def ca_seterrdist(tolerance: float) -> None:
 
 
 def ca_GetStartendFlg() -> int:
-    """Returns the flag of ca_SetStartendFlg(); 0 at load."""
+    """Returns the flag of ca_SetStartendFlg().
+
+    Returns:
+        the flag as it was set; 0 at load
+    """
     return int(_lib.ca_GetStartendFlg())
 
 
@@ -184,12 +198,15 @@ def ca_SetStartendFlg(flag: int) -> None:
 
 
 def ca_Simpson_getParmtbl() -> "ctypes.Array[ctypes.c_double]":
-    """Returns the parameter table of the Simpson integrands: ten doubles, zero at load, the same
-    address at every call. The library reads it and never writes it.
+    """Returns the parameter table of the Simpson integrands: ten doubles, zero at load. The
+    library reads it and never writes it.
 
     The host stores half the first axis in slot 0 and half the second in slot 1 before it
     measures an ellipse; slots 2 to 9 are free for integrands of its own. The table is shared by
     all threads: do not measure two ellipses at once.
+
+    Returns:
+        the address of the table, the same at every call
     """
     _table = ctypes.cast(_lib.ca_Simpson_getParmtbl(), ctypes.POINTER(ctypes.c_double * 10))
     return _table.contents
@@ -199,40 +216,88 @@ def ca_Simpson_getParmtbl() -> "ctypes.Array[ctypes.c_double]":
 
 
 def sind(deg: float) -> float:
-    """Returns the sine of an angle in degrees."""
+    """Returns the sine of an angle.
+
+    Args:
+        deg: degrees
+
+    Returns:
+        [-1, 1]
+    """
     return float(_lib.sind(deg))
 
 
 def cosd(deg: float) -> float:
-    """Returns the cosine of an angle in degrees."""
+    """Returns the cosine of an angle.
+
+    Args:
+        deg: degrees
+
+    Returns:
+        [-1, 1]
+    """
     return float(_lib.cosd(deg))
 
 
 def tand(deg: float) -> float:
-    """Returns the tangent of an angle in degrees; near 90 and 270 a huge value, not an infinity.
+    """Returns the tangent of an angle.
+
+    Args:
+        deg: degrees
+
+    Returns:
+        the tangent; near 90 and 270 a huge value, not an infinity
     """
     return float(_lib.tand(deg))
 
 
 def asind(v: float) -> float:
-    """Returns the arc sine in degrees, [-90, 90]; v is first clamped to [-1, 1]."""
+    """Returns the arc sine.
+
+    Args:
+        v: first clamped to [-1, 1]
+
+    Returns:
+        degrees, [-90, 90]
+    """
     return float(_lib.asind(v))
 
 
 def acosd(v: float) -> float:
-    """Returns the arc cosine in degrees, [0, 180]; v is first clamped to [-1, 1]."""
+    """Returns the arc cosine.
+
+    Args:
+        v: first clamped to [-1, 1]
+
+    Returns:
+        degrees, [0, 180]
+    """
     return float(_lib.acosd(v))
 
 
 def atand(v: float) -> float:
-    """Returns the arc tangent in degrees, [-90, 90]."""
+    """Returns the arc tangent.
+
+    Args:
+        v: any number
+
+    Returns:
+        degrees, [-90, 90]
+    """
     return float(_lib.atand(v))
 
 
 def atan2d(y: float, x: float) -> float:
-    """Returns the direction of the vector (x, y) in degrees, [0, 360]; 0 when both are zero. A
-    direction so little below the x axis that it rounds up gives exactly 360; a negative zero
+    """Returns the direction of the vector (x, y).
+
+    A direction so little below the x axis that it rounds up gives exactly 360; a negative zero
     passes through.
+
+    Args:
+        y, x: components of the vector, y first
+
+    Returns:
+        degrees, [0, 360]; 0 when both are zero
     """
     return float(_lib.atan2d(y, x))
 
@@ -441,16 +506,29 @@ def ca_vmpnt(line_p1: PointLike, line_p2: PointLike, point: PointLike) -> ca_vmp
 
 
 def ca_vcrad(from_: PointLike, to: PointLike) -> float:
-    """Returns the direction from one point to another in radians, [0, 2 pi].
+    """Returns the direction from one point to another in radians.
 
     A component shorter than 1e-7 counts as zero: directions so close to an axis snap onto 0,
     pi/2, pi or 3 pi/2, and points so close to each other give 0.
+
+    Args:
+        from, to: the points
+
+    Returns:
+        radians, [0, 2 pi]
     """
     return float(_lib.ca_vcrad(_convert.point(from_), _convert.point(to)))
 
 
 def ca_dstpt(p: PointLike, q: PointLike) -> float:
-    """Returns the distance of two points, the plain root of the sum of squares."""
+    """Returns the distance of two points, the plain root of the sum of squares.
+
+    Args:
+        p, q: the points
+
+    Returns:
+        drawing units
+    """
     return float(_lib.ca_dstpt(_convert.point(p), _convert.point(q)))
 
 
@@ -941,7 +1019,15 @@ def ca_inslc(
     r: float,
     angles: Sequence[float],
 ) -> ca_inslc_result:
-    """Intersects a segment with an arc: a2d_lin_arc() in mode 3, with its result."""
+    """Intersects a segment with an arc, as a2d_lin_arc() in mode 3.
+
+    Args:
+        a1, a2, center, r, angles: the segment and the arc
+
+    Returns:
+        code: as there: 0 done, with or without points; 1 invalid input
+        out1, out2, count: as there
+    """
     _out1 = _convert.point_room(1)[0]
     _out2 = _convert.point_room(1)[0]
     _count = ctypes.c_uint16()
@@ -995,7 +1081,17 @@ def sb_inslc(
     r: float,
     angles: Sequence[float],
 ) -> sb_inslc_result:
-    """Intersects an infinite line with an arc: a2d_lin_arc() in mode 1, with its result."""
+    """Intersects an infinite line with an arc, as a2d_lin_arc() in mode 1.
+
+    Args:
+        a1, a2, center, r, angles: the line and the arc
+
+    Returns:
+        code: as there: 0 done, with or without points; 1 invalid input
+        out1, out2, count: as there
+
+    See also: ca_crslc2, the same with another result
+    """
     _out1 = _convert.point_room(1)[0]
     _out2 = _convert.point_room(1)[0]
     _count = ctypes.c_uint16()
@@ -1458,6 +1554,8 @@ def ca_AutoUnionNrb(n: int, list: Sequence[PointLike], tol: float) -> ca_AutoUni
     tol (plus errdist, taken as degrees); the points between its ends are removed. Directions in
     (-180, 180] are subtracted as they are: 179 and -179 do not merge.
 
+    Cost: one pass over the points.
+
     Args:
         n: number of points in the array, which is not checked; below 3, also negative, it is
             returned as it is
@@ -1674,8 +1772,14 @@ def amaSolveEquationOf4thD(c: Sequence[float]) -> amaSolveEquationOf4thD_result:
 
 
 def ama_c_sqrt(z: complex) -> complex:
-    """Returns the principal square root of a complex number: the real part is not negative, the
-    imaginary part has the sign of z's. A negative real number gives a positive imaginary root.
+    """Returns the principal square root of a complex number.
+
+    Args:
+        z: any number
+
+    Returns:
+        the root: its real part is not negative, its imaginary part has the sign of that of z. A
+        negative real number gives a positive imaginary root
     """
     _root = _lib.ama_c_sqrt(_convert.DTCOMPLEX(z.real, z.imag))
     return complex(_root.re, _root.im)
@@ -1697,6 +1801,8 @@ def amaNewtonRaphson(c: Sequence[float], n: int) -> amaNewtonRaphson_result:
     so that polynomials with large coefficients are left early. Where the slope is exactly zero
     a step of second order is made; where that has no real value the step is zero, and the
     stationary point counts as the root.
+
+    Cost: at most 200 steps, each in proportion to n.
 
     Args:
         c: n + 1 coefficients
@@ -1724,6 +1830,8 @@ def amaBairstaw(c: Sequence[float], n: int) -> amaBairstaw_result:
     Not reliable above: the best residual is never reset, and a factor may be found twice. All
     roots were right, mirrored ones aside, for 97 % of polynomials with random coefficients of
     degree 5, 63 % of degree 6, 7 % of degree 10, none of degree 19. Take amaDKA() there.
+
+    Cost: at most 100 steps for each factor, each in proportion to the degree left.
 
     Args:
         c: n + 1 coefficients
@@ -1758,6 +1866,8 @@ def amaDKA(c: Sequence[float], n: int, eps: float, maxiter: float) -> amaDKA_res
     themselves bit by bit are carried to its end at once; without that, 10^7 / (n (n + 16))
     sweeps, but at least 1000, are as a budget used up. A NaN does not count as a large value:
     where all are NaN, as with c[2] to c[n] all zero, so are the roots, and the result is 0.
+
+    Cost: some n (n + 16) complex products a sweep.
 
     Args:
         c: n + 1 coefficients; c[1] to c[n] are divided by c[0]
@@ -2391,6 +2501,10 @@ def ca_Simpson(integrand: PLANEGEO_INTEGRAND, lower: float, upper: float) -> ca_
     them until two sums differ by at most 1e-6, absolutely, or the interval falls below 0.001
     degrees. A range below 0.004 degrees gives 0.
 
+    Cost: a call of the integrand per degree at first, and as many again as there were with each
+    halving; the library's own integrands are summed in closed form, unless the axes are too
+    unlike for it.
+
     Args:
         integrand: called at the lower limit, at the upper limit, then at all interior points of
             each pass in rising order; the library may evaluate its own integrands by other
@@ -2433,6 +2547,8 @@ def ca_Simpson2(
     after each change of direction. Each range is integrated as by ca_Simpson(); one whose lower
     limit has passed the upper counts as 0, so does one that did not settle.
 
+    Cost: that of ca_Simpson() for each range on the way.
+
     Args:
         integrand: see ca_Simpson()
         lower, upper: degrees; only the moved one is written, and only when the value was found
@@ -2470,6 +2586,8 @@ def ca_ElpLen(ellipse: DTELLIPSE) -> ca_ElpLen_result:
     are an empty arc. The directions lie in [0, 360], so a whole turn is safe as (0, 360) only;
     see docs/behaviours.md.
 
+    Cost: that of ca_Simpson() with the library's own integrand.
+
     Args:
         ellipse: start, end and the ratio of the axes are read; the size comes from the
             parameter table
@@ -2496,6 +2614,8 @@ def ca_ElpLen2(ellipse: DTELLIPSE, wanted: float, which: int) -> ca_ElpLen2_resu
     Unlike ca_ElpLen() this integrates between the parametric angles. The search is that of
     ca_Simpson2(); the range found is then brought to an end of at most 360, one above
     359.999999 degrees to (0, 360), and of it the moved angle is stored.
+
+    Cost: that of ca_Simpson2() with the library's own integrand.
 
     Args:
         ellipse: start and end are read, the moved one is written; the half axes come from the
@@ -2651,6 +2771,9 @@ def ca_elip2(
     their number once fixed, the distance is made as small as it can be. Axes that differ by at
     most 2 tol give a whole ellipse as one circle.
 
+    Cost: in proportion to the number of arcs, some tenfold for a tolerance a thousand times
+    finer.
+
     Args:
         center, a, b, rot, angles: the arc; start and end equal after reduction are the whole
             turn, which is closed and begins at the end of an axis at or before the start
@@ -2713,6 +2836,9 @@ def a2d_elpdn(
     rotation from the call. Any other arc replaces it. A table is never shared: do not divide on
     two threads at once.
 
+    Cost: the first call takes memory for n doubles, and time in proportion to n or, where
+    pieces are short, to the number of steps; the others are constant.
+
     Args:
         center, a, b, rot: the ellipse: full axis lengths, degrees
         angles: start and end; a span below 0.004 degrees gives a length of 0 and the end as
@@ -2761,6 +2887,8 @@ def ca_elpdn(
     length, and only the point k = n reaches the end. Within a degree the point is placed by a
     rule of its own, which is not the interpolation along the segment; it may be off by a
     degree.
+
+    Cost: constant, at most 362 samples.
 
     Args:
         center, a, b, rot: the ellipse: full axis lengths, degrees
@@ -3613,6 +3741,9 @@ class a2dEllpsArcPerPnts_result(NamedTuple):
 def a2dEllpsArcPerPnts(p: PointLike, e: DTELLIPSE) -> a2dEllpsArcPerPnts_result:
     """As a2dEllpsPerPnts(), with only the feet that lie on the arc by ca_onelp().
 
+    Args:
+        p, e: the point and the arc
+
     Returns:
         code: number of feet on the arc, 0 to 4; -1 and -2 as there
         out: array of 4; untouched beyond the result
@@ -3668,6 +3799,9 @@ def a2d_PerEP2(p: PointLike, e: DTELLIPSE) -> a2d_PerEP2_result:
     """As a2d_PerEP(), for an arc: by a2dEllpsArcPerPnts(), unless start and end are 0 and 360
     within errdist. A circle's points are kept by a2d_lin_arc() in mode 1, with start and end
     raised by the rotation.
+
+    Args:
+        p, e: the point and the arc
 
     Returns:
         code: 0 done; -1 as there
@@ -3898,6 +4032,8 @@ def ca_dstpp(
     lead to it. Equal start and end are that one point, except for a point on the whole ellipse
     with both 0 (see ca_onelp()).
 
+    Cost: constant, at most 364 samples and then 21, of which most are ruled out unseen.
+
     Args:
         center, a, b, rot: the ellipse
         angles: start and end, degrees; a start above the end means an arc through 0; of a span
@@ -3928,7 +4064,14 @@ def ca_dstpe(
     angles: Sequence[float],
     p: PointLike,
 ) -> float:
-    """Returns the distance of ca_dstpp() alone."""
+    """Returns the distance of ca_dstpp() alone.
+
+    Args:
+        center, a, b, rot, angles, p: the arc and the point
+
+    Returns:
+        as there
+    """
     return float(
         _lib.ca_dstpe(_convert.point(center), a, b, rot, _convert.doubles(angles, 2, "angles"),
         _convert.point(p))
@@ -3985,7 +4128,14 @@ def a2d_dstpe(
     angles: Sequence[float],
     p: PointLike,
 ) -> float:
-    """Returns the distance of a2d_dstpp() alone."""
+    """Returns the distance of a2d_dstpp() alone.
+
+    Args:
+        center, a, b, rot, angles, p: the arc and the point
+
+    Returns:
+        as there
+    """
     return float(
         _lib.a2d_dstpe(_convert.point(center), a, b, rot, _convert.doubles(angles, 2, "angles"),
         _convert.point(p))
