@@ -6,7 +6,9 @@ and, where it is another name of a function, that function's text. In the Markdo
 functions become links, and each entry of behaviours.md gets an anchor.
 
     filter.py FILE               prints the file for Doxygen
-    filter.py --gallery FILE     writes the page with all pictures
+    filter.py --gallery FILE     writes the page with all pictures; fails where a guide leaves out a
+                                 function, or the main page a guide
+    filter.py --check FOLDER     fails where a function has no picture in the site
 
 Run in the root of the project.
 """
@@ -74,7 +76,8 @@ class Behaviours:
         def anchor(match):
             nonlocal number
             number += 1
-            return f"{match['bullet'] or ''}@anchor behaviour_{number} **{match['title']}**"
+            # Doxygen gives up on asterisks around links.
+            return f"{match['bullet'] or ''}@anchor behaviour_{number} <b>{match['title']}</b>"
 
         return self.TITLE.sub(anchor, text)
 
@@ -149,6 +152,30 @@ def markdown(path, text):
     return linked(text)
 
 
+def check_guides():
+    """Every function stands in the tables by question, and every page on the main page."""
+    choosing = pathlib.Path("docs/choosing.md").read_text()
+    unchosen = [name for name in sorted(exported()) if f"`{name}`" not in choosing]
+    index = pathlib.Path("docs/index.md").read_text()
+    unlisted = [stem for stem in PAGES.values()
+                if stem != "index" and f"@subpage {page_label(stem)} " not in index]
+    if unchosen or unlisted:
+        sys.exit(f"not in docs/choosing.md: {unchosen}; not in docs/index.md: {unlisted}")
+
+
+def check_site(site):
+    """Every function stands on the page of its subject, with its picture and its cost."""
+    described = set()
+    for page in site.glob("group__*.html"):
+        for section in page.read_text().split('<h2 class="memtitle">')[1:]:
+            name = re.search(r"data=\"(\w+)\.svg\"", section)
+            if name and f"</span>{name[1]}()" in section and "<dt>Cost</dt>" in section:
+                described.add(name[1])
+    missing = sorted(exported() - described)
+    if missing:
+        sys.exit(f"without picture or cost in the site: {missing}")
+
+
 def gallery():
     lines = ["# Gallery", "",
              "Every function, drawn by calling it: what goes in is blue, what comes out orange."]
@@ -162,7 +189,11 @@ def gallery():
 
 def main(arguments):
     if arguments[0] == "--gallery":
+        check_guides()
         pathlib.Path(arguments[1]).write_text(gallery())
+        return
+    if arguments[0] == "--check":
+        check_site(pathlib.Path(arguments[1]))
         return
     path = pathlib.Path(arguments[0])
     text = path.read_text()
