@@ -353,6 +353,7 @@ PLANEGEO_API double PLANEGEO_CALL ca_dstpt(const DTPOINT *p, const DTPOINT *q);
 /** @} */
 
 /** @defgroup lines Lines
+ *  Where lines meet, where points lie against them, and their parallels.
  *  @{ */
 
 /**
@@ -1141,6 +1142,8 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_ElpCordXY(int16_t mode, const DTELLIPSE *e
 /** @} */
 
 /** @defgroup ellipseQueries Ellipses: queries and transforms
+ *  Where a point or line lies against an ellipse, and what becomes of the ellipse when
+ *  it is turned, mirrored or scaled.
  *  @{ */
 
 /**
@@ -1615,6 +1618,7 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_elpdn(const DTPOINT *center, double a, dou
 /** @} */
 
 /** @defgroup ellipseExtents Ellipses: extents and points of given tangent
+ *  A box is made of points whose tangents lie along x and y.
  *  @{ */
 
 /**
@@ -1818,6 +1822,7 @@ PLANEGEO_API int32_t PLANEGEO_CALL a2d_InsDe(const DTELLIPSE *e1, const DTELLIPS
 /** @} */
 
 /** @defgroup conics Ellipses with circles and ellipses
+ *  Up to four points. Where arcs are given, only points on both are kept.
  *  @{ */
 
 /**
@@ -2043,6 +2048,7 @@ PLANEGEO_API int32_t PLANEGEO_CALL a2d_perle(const DTPOINT *p, const DTELLIPSE *
 /** @} */
 
 /** @defgroup ellipseTangents Ellipses: tangents
+ *  A tangent is given by its points of contact.
  *  @{ */
 /**
  * Finds the points of contact of the tangents from a point to an ellipse, by the

@@ -49,6 +49,11 @@ def page_label(stem):
     return "mainpage" if stem == "index" else "page_" + stem.lower().replace("-", "_")
 
 
+def first_naming(text):
+    """The first sentence that names a function; later ones name ways out."""
+    return next((sentence for sentence in re.split(r"(?<=\.)\s", text) if "`" in sentence), "")
+
+
 class Behaviours:
     """The entries of behaviours.md: bold titles, in lists or at the head of a paragraph."""
 
@@ -61,7 +66,7 @@ class Behaviours:
         for number, match in enumerate(self.TITLE.finditer(text)):
             body = re.split(r"^#", text[match.end():starts[number + 1]], flags=re.M)[0]
             title = " ".join(match["title"].replace("`", "").split()).rstrip(".")
-            subjects_of_it = (self.names_in(match["title"]) or self.names_in(body))
+            subjects_of_it = self.names_in(match["title"]) or self.names_in(first_naming(body))
             for name in dict.fromkeys(subjects_of_it):
                 if name in self.about:
                     self.about[name].append((f"behaviour_{number}", title))
@@ -110,6 +115,8 @@ def header(text):
         return f"/**{body}\n */\n"
 
     text = PORTABILITY.sub("#ifdef __cplusplus", text)
+    # A group called arcs would make a link of the word wherever @see has it.
+    text = text.replace("@defgroup ", "@defgroup subject_")
     text = COMMENT_AND_DECLARATION.sub(extended, text)
     return re.sub(r"^ \* Cost: (\w)", lambda match: f" * @par Cost\n * {match[1].upper()}", text,
                   flags=re.M)

@@ -46,7 +46,8 @@ bool Album::write(const std::string &folder, const std::string &exportList) cons
 
     std::filesystem::create_directories(folder);
     for (const auto &[name, svg] : pictures_) {
-        std::ofstream out(folder + "/" + name + ".svg", std::ios::binary);
+        const auto file = std::filesystem::path(folder) / (name + ".svg");
+        std::ofstream out(file, std::ios::binary);
         out << svg;
         if (!out.flush()) faults.push_back(name + ": cannot be written");
     }

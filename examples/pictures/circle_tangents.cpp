@@ -21,7 +21,7 @@ void drawCircleTangents(Album &album) {
         const int32_t result =
             call(&c1, 22, &c2, 13, &t[0], &t[1], &t[2], &t[3], &t[4], &t[5], &t[6], &t[7], &count);
         picture.given().circle(c1, 22, "c1").circle(c2, 13, "c2").found();
-        for (std::size_t i = 0; i < 2U * count; i += 2) {
+        for (std::size_t i = 0; i < 2 * std::size_t{count}; i += 2) {
             picture.segment(t[i], t[i + 1], "t" + std::to_string(i + 1),
                             "t" + std::to_string(i + 2));
         }

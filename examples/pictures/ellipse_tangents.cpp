@@ -31,7 +31,7 @@ void drawEllipseTangents(Album &album) {
         const int32_t result = call(&e1.center, &e2.center, e1.a, e2.a, e1.b, e2.b, e1.rot, e2.rot,
                                     &t[0], &t[1], &t[2], &t[3], &t[4], &t[5], &t[6], &t[7], &count);
         picture.given().ellipse(e1, "center1").ellipse(e2, "center2").found();
-        for (std::size_t i = 0; i < 2U * count; i += 2) {
+        for (std::size_t i = 0; i < 2 * std::size_t{count}; i += 2) {
             picture.segment(t[i], t[i + 1], "t" + std::to_string(i + 1),
                             "t" + std::to_string(i + 2));
         }
