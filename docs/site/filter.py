@@ -6,8 +6,8 @@ and, where it is another name of a function, that function's text. In the Markdo
 functions become links, and each entry of behaviours.md gets an anchor.
 
     filter.py FILE               prints the file for Doxygen
-    filter.py --gallery FILE     writes the page with all pictures; fails where a guide leaves out a
-                                 function, or the main page a guide
+    filter.py --gallery FILE     writes the page with all pictures; fails where docs/choosing.md
+                                 leaves out a function
     filter.py --check FOLDER     fails where a function has no picture in the site
 
 Run in the root of the project.
@@ -22,7 +22,6 @@ EXPORTS = pathlib.Path("src/exports.txt")
 PAGES = {path.name: path.stem for path in pathlib.Path("docs").glob("*.md")}
 PAGES["CHANGELOG.md"] = "CHANGELOG"
 
-DECLARATION = re.compile(r"^PLANEGEO_API\b[^(]*\b(\w+)\(", re.M)
 COMMENT_AND_DECLARATION = re.compile(
     r"/\*\*(?P<text>(?:(?!\*/).)*)\*/\n(?=PLANEGEO_API\b[^(]*?\b(?P<name>\w+)\()", re.S)
 PORTABILITY = re.compile(
@@ -156,18 +155,22 @@ def markdown(path, text):
     text = re.sub(r"^# (.*)$", lambda match: f"# {match[1]} {{#{label}}}", text, count=1, flags=re.M)
     if path.resolve() == BEHAVIOURS.resolve():
         text = Behaviours(exported()).anchored(text)
-    return linked(text)
+    return linked(with_other_pages(text))
 
 
-def check_guides():
-    """Every function stands in the tables by question, and every page on the main page."""
+def with_other_pages(index):
+    """The main page, with the guides that it does not name at its end."""
+    others = [f"- @subpage {page_label(stem)}" for stem in sorted(PAGES.values())
+              if stem != "index" and f"@subpage {page_label(stem)} " not in index]
+    return index.replace("<!-- other pages -->", "\n".join(others))
+
+
+def check_choosing():
+    """Every function stands in the tables by question."""
     choosing = pathlib.Path("docs/choosing.md").read_text()
-    unchosen = [name for name in sorted(exported()) if f"`{name}`" not in choosing]
-    index = pathlib.Path("docs/index.md").read_text()
-    unlisted = [stem for stem in PAGES.values()
-                if stem != "index" and f"@subpage {page_label(stem)} " not in index]
-    if unchosen or unlisted:
-        sys.exit(f"not in docs/choosing.md: {unchosen}; not in docs/index.md: {unlisted}")
+    missing = [name for name in sorted(exported()) if f"`{name}`" not in choosing]
+    if missing:
+        sys.exit(f"not in docs/choosing.md: {missing}")
 
 
 def check_site(site):
@@ -196,7 +199,7 @@ def gallery():
 
 def main(arguments):
     if arguments[0] == "--gallery":
-        check_guides()
+        check_choosing()
         pathlib.Path(arguments[1]).write_text(gallery())
         return
     if arguments[0] == "--check":
