@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <limits>
 
 #include "picture.h"
 
@@ -10,6 +11,7 @@ namespace pictures {
 
 namespace {
 
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kWidth = 480.0;
 constexpr double kMargin = 26.0;
 constexpr double kLeastHeight = 150.0, kMostHeight = 290.0;
@@ -159,7 +161,7 @@ void Layout::chooseScale() {
         height_ = kGraphHeight + 2.0 * kMargin + kTickRoom / 2.0;
         return;
     }
-    DTPOINT low{INFINITY, INFINITY}, high{-INFINITY, -INFINITY};
+    DTPOINT low{kInfinity, kInfinity}, high{-kInfinity, -kInfinity};
     const auto include = [&](DTPOINT p) {
         low = {std::min(low.x, p.x), std::min(low.y, p.y)};
         high = {std::max(high.x, p.x), std::max(high.y, p.y)};
@@ -200,7 +202,7 @@ Layout::Path Layout::onPage(const Picture::Stroke &stroke) const {
     // p + t d, cut where it leaves the area.
     const DTPOINT p = path.front(), d = path.back() - path.front();
     const Box page = area();
-    double from = -INFINITY, to = INFINITY;
+    double from = -kInfinity, to = kInfinity;
     const auto cut = [&](double origin, double step, double low, double high) {
         if (step == 0.0) return;
         from = std::max(from, std::min((low - origin) / step, (high - origin) / step));
@@ -249,7 +251,7 @@ DTPOINT Layout::placeFor(const Picture::Label &label) {
     const double halfWidth = 0.5 * widthOf(label.words), halfHeight = 0.5 * kFontSize;
     if (label.fixed) return {at.x - 0.9 * halfWidth, at.y + 0.7 * halfHeight};
     Box best{};
-    double least = INFINITY;
+    double least = kInfinity;
     for (const double gap : {7.0, 13.0, 22.0, 34.0}) {
         for (int direction = 0; direction < 16; ++direction) {
             const DTPOINT ray = polar(1.0, 45.0 + 22.5 * direction);
