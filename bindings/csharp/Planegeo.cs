@@ -1498,7 +1498,8 @@ namespace Planegeo
         /// </remarks>
         /// <param name="integrand">
         /// called at the lower limit, at the upper limit, then at all interior points of each pass in
-        /// rising order; the library may evaluate its own integrands by other means
+        /// rising order, up to 2000 times per degree of the range; the library may evaluate its own
+        /// integrands by other means
         /// </param>
         /// <param name="lower">degrees</param>
         /// <param name="upper">degrees</param>
@@ -1506,7 +1507,8 @@ namespace Planegeo
         /// <returns>
         /// 0 done; -1 lower exceeds upper (nothing is called); -2 not settled when the interval count
         /// would pass 2^31 - 1: a range above 2^30 degrees, an infinite or a NaN limit get there at
-        /// once; else the integrand's code
+        /// once, and with the library's own integrands a range above 36000 degrees, or above 1440 where
+        /// one half axis exceeds four times the other; else the integrand's code
         /// </returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ca_Simpson(PLANEGEO_INTEGRAND integrand, double lower, double
@@ -1704,8 +1706,8 @@ namespace Planegeo
         /// </param>
         /// <returns>
         /// 0 done; -1 when an axis is not above errdist, tol not above 0 or a number not finite; -2
-        /// when there are more arcs than room; -3 when they are more than 65535, or tol or half the
-        /// shorter axis is below 4e-15 of the largest radius of curvature
+        /// when there are more arcs than room; -3 when a quadrant takes more than 512 arcs, or tol or
+        /// half the shorter axis is below 4e-15 of the largest radius of curvature
         /// </returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ca_elip2([In] ref DTPOINT center, double a, double b, double rot,
@@ -1740,9 +1742,9 @@ namespace Planegeo
         /// <param name="out">the point</param>
         /// <param name="len">length of a piece</param>
         /// <returns>
-        /// 0 done; 1 k exceeds n or is below 1, or no memory, or n above 2^22; -1 start exceeds end (at
+        /// 0 done; 1 k exceeds n or is below 1, or no memory, or n above 2^20; -1 start exceeds end (at
         /// every call); outputs are untouched in these cases. -2 from the call that measures: the
-        /// length does not settle, or the span exceeds 36000 degrees; the length is 0 and every point
+        /// length does not settle, or the span exceeds 1440 degrees; the length is 0 and every point
         /// the end
         /// </returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]

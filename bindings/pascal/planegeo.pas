@@ -1012,12 +1012,14 @@ function ca_AreaElp(deg: Double; var value: Double): Integer; cdecl; external li
 // halving; the library's own integrands are summed in closed form, unless the axes are too unlike
 // for it.
 //   integrand (in): called at the lower limit, at the upper limit, then at all interior points of
-//     each pass in rising order; the library may evaluate its own integrands by other means
+//     each pass in rising order, up to 2000 times per degree of the range; the library may
+//     evaluate its own integrands by other means
 //   lower, upper (in): degrees
 //   result_ (out): the integral; 0 unless the return value is 0
 //   Result: 0 done; -1 lower exceeds upper (nothing is called); -2 not settled when the interval
 //     count would pass 2^31 - 1: a range above 2^30 degrees, an infinite or a NaN limit get there
-//     at once; else the integrand's code
+//     at once, and with the library's own integrands a range above 36000 degrees, or above 1440
+//     where one half axis exceeds four times the other; else the integrand's code
 //   See also: ca_Simpson2 for the inverse, ca_ElpLen for an elliptic arc
 function ca_Simpson(integrand: PLANEGEO_INTEGRAND; lower: Double; upper: Double; var result_:
   Double): Integer; cdecl; external library_name name 'ca_Simpson';
@@ -1132,8 +1134,8 @@ function ca_elip1(center: PDTPOINT; a: Double; b: Double; rot: Double; angles: P
 //   count (in,out): room in arcs, 0 to ask for the number (the arrays may then be null); the
 //     number of arcs, also when the result is -2; 0 for -1 and -3
 //   Result: 0 done; -1 when an axis is not above errdist, tol not above 0 or a number not finite;
-//     -2 when there are more arcs than room; -3 when they are more than 65535, or tol or half the
-//     shorter axis is below 4e-15 of the largest radius of curvature
+//     -2 when there are more arcs than room; -3 when a quadrant takes more than 512 arcs, or tol
+//     or half the shorter axis is below 4e-15 of the largest radius of curvature
 //   See also: ca_elip1 for a chain of five arcs at most
 function ca_elip2(center: PDTPOINT; a: Double; b: Double; rot: Double; angles: PDouble; tol:
   Double; out_centers: PDTPOINT; out_radii: PDouble; out_angles: PDouble; var count: Word):
@@ -1159,9 +1161,9 @@ function ca_elip2(center: PDTPOINT; a: Double; b: Double; rot: Double; angles: P
 //   n, k (in): number of pieces and of the point, 1 <= k <= n
 //   out_ (out): the point
 //   len (out): length of a piece
-//   Result: 0 done; 1 k exceeds n or is below 1, or no memory, or n above 2^22; -1 start exceeds
+//   Result: 0 done; 1 k exceeds n or is below 1, or no memory, or n above 2^20; -1 start exceeds
 //     end (at every call); outputs are untouched in these cases. -2 from the call that measures:
-//     the length does not settle, or the span exceeds 36000 degrees; the length is 0 and every
+//     the length does not settle, or the span exceeds 1440 degrees; the length is 0 and every
 //     point the end
 //   See also: ca_elpdn, which is coarser and keeps nothing
 function a2d_elpdn(center: PDTPOINT; a: Double; b: Double; rot: Double; angles: PDouble; n:

@@ -2507,14 +2507,16 @@ def ca_Simpson(integrand: PLANEGEO_INTEGRAND, lower: float, upper: float) -> ca_
 
     Args:
         integrand: called at the lower limit, at the upper limit, then at all interior points of
-            each pass in rising order; the library may evaluate its own integrands by other
-            means
+            each pass in rising order, up to 2000 times per degree of the range; the library may
+            evaluate its own integrands by other means
         lower, upper: degrees
 
     Returns:
         code: 0 done; -1 lower exceeds upper (nothing is called); -2 not settled when the
             interval count would pass 2^31 - 1: a range above 2^30 degrees, an infinite or a NaN
-            limit get there at once; else the integrand's code
+            limit get there at once, and with the library's own integrands a range above 36000
+            degrees, or above 1440 where one half axis exceeds four times the other; else the
+            integrand's code
         result: the integral; 0 unless the return value is 0
 
     See also: ca_Simpson2 for the inverse, ca_ElpLen for an elliptic arc
@@ -2783,8 +2785,9 @@ def ca_elip2(
 
     Returns:
         code: 0 done; -1 when an axis is not above errdist, tol not above 0 or a number not
-            finite; -2 when there are more arcs than room; -3 when they are more than 65535, or
-            tol or half the shorter axis is below 4e-15 of the largest radius of curvature
+            finite; -2 when there are more arcs than room; -3 when a quadrant takes more than
+            512 arcs, or tol or half the shorter axis is below 4e-15 of the largest radius of
+            curvature
         out_centers, out_radii, out_angles: room for count arcs each; degrees, each range
             normalised as by a2d_StdSedeg(); untouched unless the result is 0
         count: room in arcs, 0 to ask for the number (the arrays may then be null); the number
@@ -2846,9 +2849,9 @@ def a2d_elpdn(
         n, k: number of pieces and of the point, 1 <= k <= n
 
     Returns:
-        code: 0 done; 1 k exceeds n or is below 1, or no memory, or n above 2^22; -1 start
+        code: 0 done; 1 k exceeds n or is below 1, or no memory, or n above 2^20; -1 start
             exceeds end (at every call); outputs are untouched in these cases. -2 from the call
-            that measures: the length does not settle, or the span exceeds 36000 degrees; the
+            that measures: the length does not settle, or the span exceeds 1440 degrees; the
             length is 0 and every point the end
         out: the point
         len: length of a piece
