@@ -22,8 +22,12 @@
  *  - Results are of several kinds, told per function: always 0; found (1) or
  *    not (0); done (0) or degenerate (1); a small code; -1 with all bits set.
  *    Counts of points are 16-bit unsigned, a side is 65535 where others say -1.
- *  - All functions may be called from any thread as long as no thread changes
- *    the settings meanwhile; the exceptions say so.
+ *  - All functions may be called from many threads at once, except:
+ *    ca_seterrdist() and ca_SetStartendFlg() while any other call runs, since the
+ *    settings are plain variables; writing to the table of ca_Simpson_getParmtbl()
+ *    while ca_lengelp(), ca_AreaElp(), ca_Simpson(), ca_Simpson2(), ca_ElpLen() or
+ *    ca_ElpLen2() runs, so that two ellipses are not measured at once; and
+ *    a2d_elpdn() beside itself, which keeps a table between calls.
  *  - A call takes constant time and no memory, unless its cost is told.
  */
 #ifndef PLANEGEO_H
@@ -1033,7 +1037,8 @@ PLANEGEO_API int32_t PLANEGEO_CALL amaBairstaw(const double *c, int32_t n, doubl
  *
  * Sweeps end when all values met in one are below eps, or with the budget. Roots that
  * repeat themselves bit by bit are carried to its end at once; without that,
- * 10^7 / (n (n + 16)) sweeps, but at least 1000, are as a budget used up. A NaN does
+ * 10^7 / (n (n + 16)) sweeps, but at least 1000, above degree 126 at least
+ * 1.8 10^7 / (n (n + 16)), are as a budget used up. A NaN does
  * not count as a large value: where all are NaN, as with c[2] to c[n] all zero, so
  * are the roots, and the result is 0.
  *
@@ -1420,8 +1425,8 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_Simpson(PLANEGEO_INTEGRAND integrand, doub
  * @return 0 found; -2 found, but a range on the way did not settle; -1 given up:
  *         ten ranges in a row gave nothing or no change above 1e-6, the integral is
  *         not finite and the limit no longer changes, wanted is infinite, or 2^28
- *         samples are spent (the range has then grown by at most 80 turns); else the
- *         integrand's code
+ *         samples are spent (the range has then grown by at most 80 turns), or 2^21 of
+ *         an integrand of the library that has to be sampled; else the integrand's code
  */
 PLANEGEO_API int32_t PLANEGEO_CALL ca_Simpson2(PLANEGEO_INTEGRAND integrand, double *lower,
                                                double *upper, double wanted, int32_t which);
@@ -1581,8 +1586,10 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_elip2(const DTPOINT *center, double a, dou
  * @param[out] len    length of a piece
  * @return 0 done; 1 k exceeds n or is below 1, or no memory, or n above 2^20; -1
  *         start exceeds end (at every call); outputs are untouched in these cases.
- *         -2 from the call that measures: the length does not settle, or the span
- *         exceeds 1440 degrees; the length is 0 and every point the end
+ *         -2 from the call that measures: the length does not settle, the span exceeds
+ *         36000 degrees, or it exceeds 1440 and the arc is too thin (an axis below some
+ *         fifth of the other) or n too large (22500, in any case 65536) to be divided
+ *         without a walk over it; the length is 0 and every point the end
  * @see ca_elpdn, which is coarser and keeps nothing
  */
 PLANEGEO_API int32_t PLANEGEO_CALL a2d_elpdn(const DTPOINT *center, double a, double b, double rot,

@@ -134,9 +134,14 @@ TEST(KeptDivision, oddArguments) {
     EXPECT_EQ(got.piece, 0.0);
     EXPECT_TRUE(near(got.point, plain::pointOf(endless, 1e6), 1e-12));
     EXPECT_EQ(kept(endless, 3, 2).code, 0) << "the code is that of the call that measures";
-    EXPECT_EQ(kept({kCenter, 10, 6, 0, 0, 1440.5}, 3, 3).code, -2);
-    EXPECT_EQ(kept({kCenter, 10, 6, 0, 0, 1440.0}, 3, 3).code, 0);
     EXPECT_EQ(kept({kCenter, 10, 6, 0, 0, kInfinity}, 3, 3).code, -2);
+    EXPECT_EQ(kept({kCenter, 10, 6, 0, 0, 36000.5}, 3, 1).code, -2);
+    EXPECT_EQ(kept({kCenter, 10, 6, 0, 0, 36000}, 65536, 1).code, 0);
+    EXPECT_EQ(kept({kCenter, 10, 6, 0, 0, 36000}, 65537, 1).code, -2) << "too many to look for";
+    EXPECT_EQ(kept({kCenter, 10, 1, 0, 0, 1440}, 3, 1).code, 0);
+    got = kept({kCenter, 10, 1, 0, 0, 1440.5}, 3, 1);
+    EXPECT_EQ(got.code, -2) << "too long a walk";
+    EXPECT_EQ(got.piece, 0.0);
     EXPECT_EQ(kept({kCenter, 10, 6, 0, kNaN, 90}, 3, 3).code, -2);
     EXPECT_EQ(kept({kCenter, 10, 6, 0, 0, 90}, 1 << 20, 1 << 20).code, 0);
     EXPECT_EQ(kept({kCenter, 10, 6, 0, 0, 90}, (1 << 20) + 1, 3).code, 1);

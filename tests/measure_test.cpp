@@ -160,6 +160,21 @@ TEST(Simpson, ownIntegrandsHaveALongestRange) {
     }
 }
 
+// Without a second axis the speed has no series, nor with one that is lost beside the first.
+TEST(Simpson, samplesTheLibrarysIntegrandsOverAFewTurnsOnly) {
+    for (const double second : {0.0, 1e-18}) {
+        const HalfAxes axes(100.0, second);
+        double result = kUntouched;
+        EXPECT_EQ(ca_Simpson(ca_lengelp, -256.0, 256.0, &result), 0);
+        EXPECT_NEAR(result, 400.0 + 200.0 * (1.0 - std::cos(76.0 * kRadPerDeg)), 1e-5);
+        EXPECT_EQ(ca_Simpson(ca_lengelp, 0.0, 1e8, &result), -2);
+        EXPECT_EQ(result, 0.0);
+        double lo = 0.0, hi = 1e5;
+        EXPECT_EQ(ca_Simpson2(ca_lengelp, &lo, &hi, 1000.0, 1), -1);
+        EXPECT_EQ(hi, 1e5);
+    }
+}
+
 struct SearchCase {
     const char *about;
     double lo, hi, wanted;

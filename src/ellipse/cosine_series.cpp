@@ -37,7 +37,8 @@ int termsFor(double a, double b, double bits) {
     const double bitsPerTerm = -std::log2(std::fabs(flatness(a, b)));
     if (bitsPerTerm > bits * 1.5) return 0;
     const double terms = std::ceil(bits / bitsPerTerm);
-    return terms <= CosineSeries::kMostTerms ? static_cast<int>(terms) : -1;
+    // An axis lost beside the other makes the bits zero, perhaps a negative one.
+    return terms > 0.0 && terms <= CosineSeries::kMostTerms ? static_cast<int>(terms) : -1;
 }
 
 } // namespace

@@ -23,8 +23,11 @@ constexpr std::int32_t kOutOfIntervals = -2;
 
 /// The largest interval count that is still refined.
 constexpr std::int64_t kLongestPass = 2147483647;
-/// A span above it, four turns, is out of intervals without a walk.
-constexpr double kLongestSpanDeg = 1440.0;
+/// More steps than these are not walked, more pieces not looked for one by one.
+constexpr std::int64_t kMostWalkedSteps = 1'440'000;
+constexpr std::int32_t kMostSoughtPieces = 1 << 16;
+/// A span above it, a hundred turns, is out of intervals without a walk.
+constexpr double kLongestSpanDeg = 36000.0;
 /// Steps of the running sum in a piece, on average, from which on they are not walked.
 constexpr std::int64_t kStepsPerPiece = 64;
 /// A table of more entries counts as one that cannot be allocated.
@@ -91,7 +94,8 @@ void noteByWalking(const ArcSpeed &speed, const Steps &steps, Division &division
 /// short that a step might pass over one.
 bool noteBySeries(const ArcSpeed &speed, const CosineSeries &series, const Steps &steps,
                   Division &division) {
-    if (!series.isUsable() || division.n * kStepsPerPiece > steps.count) return false;
+    if (!series.isUsable() || division.n > kMostSoughtPieces) return false;
+    if (division.n * kStepsPerPiece > steps.count) return false;
     const RunningLength running(speed, series, steps);
     double after = steps.start;
     for (std::int32_t k = 1; k < division.n; ++k) {
@@ -124,7 +128,14 @@ std::int32_t divide(Division &division) {
     if (division.piece > 0.0 && std::isfinite(division.piece)) {
         const std::int64_t count = evenIntervals(span / kSmallestStepDeg);
         const Steps steps = {arc.start, arc.end, count, span / static_cast<double>(count)};
-        if (!noteBySeries(speed, series, steps, division)) noteByWalking(speed, steps, division);
+        if (!noteBySeries(speed, series, steps, division)) {
+            if (count > kMostWalkedSteps) {
+                division.piece = 0.0;
+                division.clear();
+                return kOutOfIntervals;
+            }
+            noteByWalking(speed, steps, division);
+        }
     }
     return length.outcome == Refinement::outOfIntervals ? kOutOfIntervals : 0;
 }
