@@ -97,27 +97,45 @@ Page::Page(const Box &extents) {
     const double centerY = extents.empty() ? 0.0 : (extents.minY + extents.maxY) / 2.0;
     originX_ = centerX - areaWidth_ / scale_ / 2.0;
     originY_ = centerY - areaHeight_ / scale_ / 2.0;
+    makeGrid();
+}
+
+/// Values of many digits take more room.
+void Page::makeGrid() {
+    constexpr double kLeastSpacing = 70.0;
+    constexpr double kPerDigit = 6.4;
+    constexpr double kBeside = 6.0;
+    const double least = kLeastSpacing / scale_;
+    step_ = roundBelow(least);
+    while (step_ < least)
+        step_ *= 2.0;
+    step_ = roundBelow(step_);
+    decimals_ = decimalsOfStep(step_);
+    const auto widthOf = [&](double value) {
+        return kPerDigit * static_cast<double>(fixed(value, decimals_).size());
+    };
+    const double top = originY_ + areaHeight_ / scale_;
+    tickRoom_ = std::max({tickRoom_, widthOf(originY_) + kBeside - kMargin / 2.0,
+                          widthOf(top) + kBeside - kMargin / 2.0});
+    const double end = originX_ + areaWidth_ / scale_;
+    const double widest = std::max(widthOf(originX_), widthOf(end)) + kBeside;
+    valueEvery_ = static_cast<int>(std::ceil(widest / (step_ * scale_)));
 }
 
 std::string Page::grid() const {
-    constexpr double kLeastSpacing = 70.0;
-    double step = roundBelow(kLeastSpacing / scale_);
-    while (step * scale_ < kLeastSpacing)
-        step *= 2.0;
-    step = roundBelow(step);
-    const int decimals = decimalsOfStep(step);
     std::string lines;
     std::string ticks;
-    const auto first = [&](double origin) { return std::ceil(origin / step); };
-    for (int i = 0; x((first(originX_) + i) * step) <= right(); ++i) {
-        const double value = (first(originX_) + i) * step;
+    const auto first = [&](double origin) { return std::ceil(origin / step_); };
+    for (int i = 0; x((first(originX_) + i) * step_) <= right(); ++i) {
+        const double value = (first(originX_) + i) * step_;
         lines += line(x(value), top(), x(value), bottom());
-        ticks += tick(x(value), bottom() + 14.0, "middle", fixed(value, decimals));
+        if (i % valueEvery_ == 0)
+            ticks += tick(x(value), bottom() + 14.0, "middle", fixed(value, decimals_));
     }
-    for (int i = 0; y((first(originY_) + i) * step) >= top(); ++i) {
-        const double value = (first(originY_) + i) * step;
+    for (int i = 0; y((first(originY_) + i) * step_) >= top(); ++i) {
+        const double value = (first(originY_) + i) * step_;
         lines += line(left(), y(value), right(), y(value));
-        ticks += tick(left() - 6.0, y(value) + 3.5, "end", fixed(value, decimals));
+        ticks += tick(left() - 6.0, y(value) + 3.5, "end", fixed(value, decimals_));
     }
     return "<path class=\"grid\" d=\"" + lines + "\"/>\n" + ticks;
 }

@@ -13,7 +13,7 @@ class Page {
     explicit Page(const Box &extents);
 
     double width() const { return right() + kMargin; }
-    double left() const { return kMargin + kTickRoom; }
+    double left() const { return kMargin + tickRoom_; }
     double right() const { return left() + areaWidth_; }
     double top() const { return kHeader; }
     double bottom() const { return top() + areaHeight_; }
@@ -35,10 +35,15 @@ class Page {
 
   private:
     static constexpr double kMargin = 28.0;
-    static constexpr double kTickRoom = 34.0;
     static constexpr double kHeader = 64.0;
 
+    void makeGrid();
+
     double areaWidth_ = 0.0, areaHeight_ = 0.0;
+    double tickRoom_ = 34.0; ///< for the values beside the grid
+    double step_ = 1.0;      ///< of the grid, in the plane
+    int decimals_ = 0;       ///< of its values
+    int valueEvery_ = 1;     ///< of how many upright lines one has its value below
     double scale_ = 1.0;
     double originX_ = 0.0, originY_ = 0.0; ///< of the plane, at the left bottom of the area
 };

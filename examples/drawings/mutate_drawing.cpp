@@ -67,10 +67,10 @@ constexpr std::array<const char *, 24> kCodes = {
 
 /// Where the next record begins, at a code 0; the end if there is none.
 std::size_t nextRecord(const Lines &lines, std::size_t from) {
-    for (std::size_t i = from - from % 2; i + 1 < lines.size(); i += 2)
-        if (lines[i].find_first_not_of(" \r") != std::string::npos &&
-            std::atoi(lines[i].c_str()) == 0)
-            return i;
+    for (std::size_t i = from - from % 2; i + 1 < lines.size(); i += 2) {
+        const bool isBlank = lines[i].find_first_not_of(" \r") == std::string::npos;
+        if (!isBlank && std::atoi(lines[i].c_str()) == 0) return i;
+    }
     return lines.size();
 }
 
