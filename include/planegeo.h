@@ -1388,8 +1388,8 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_AreaElp(double deg, double *value);
  * interval falls below 0.001 degrees. A range below 0.004 degrees gives 0.
  *
  * Cost: a call of the integrand per degree at first, and as many again as there were
- * with each halving; the library's own integrands are summed in closed form, unless
- * the axes are too unlike for it.
+ * with each halving. The library's own integrands are summed in closed form as a rule,
+ * in constant time.
  *
  * @param[in]  integrand called at the lower limit, at the upper limit, then at all
  *                       interior points of each pass in rising order, up to 2000

@@ -1493,8 +1493,7 @@ namespace Planegeo
         /// them until two sums differ by at most 1e-6, absolutely, or the interval falls below 0.001
         /// degrees. A range below 0.004 degrees gives 0.
         /// Cost: a call of the integrand per degree at first, and as many again as there were with each
-        /// halving; the library's own integrands are summed in closed form, unless the axes are too
-        /// unlike for it.
+        /// halving. The library's own integrands are summed in closed form as a rule, in constant time.
         /// </remarks>
         /// <param name="integrand">
         /// called at the lower limit, at the upper limit, then at all interior points of each pass in

@@ -1009,8 +1009,7 @@ function ca_AreaElp(deg: Double; var value: Double): Integer; cdecl; external li
 // range below 0.004 degrees gives 0.
 //
 // Cost: a call of the integrand per degree at first, and as many again as there were with each
-// halving; the library's own integrands are summed in closed form, unless the axes are too unlike
-// for it.
+// halving. The library's own integrands are summed in closed form as a rule, in constant time.
 //   integrand (in): called at the lower limit, at the upper limit, then at all interior points of
 //     each pass in rising order, up to 2000 times per degree of the range; the library may
 //     evaluate its own integrands by other means

@@ -2502,8 +2502,7 @@ def ca_Simpson(integrand: PLANEGEO_INTEGRAND, lower: float, upper: float) -> ca_
     degrees. A range below 0.004 degrees gives 0.
 
     Cost: a call of the integrand per degree at first, and as many again as there were with each
-    halving; the library's own integrands are summed in closed form, unless the axes are too
-    unlike for it.
+    halving. The library's own integrands are summed in closed form as a rule, in constant time.
 
     Args:
         integrand: called at the lower limit, at the upper limit, then at all interior points of
