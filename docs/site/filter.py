@@ -150,12 +150,21 @@ def linked(text):
     return "\n".join(out) + "\n"
 
 
+def with_programs(text):
+    """A link to a program, alone on its line, becomes the program."""
+    def program(match):
+        path = pathlib.Path(match[1])
+        return f"```{path.suffix}\n{path.read_text()}```"
+
+    return re.sub(r"^\[.*\]\(\.\./(examples/.*\.\w+)\)$", program, text, flags=re.M)
+
+
 def markdown(path, text):
     label = page_label(path.stem)
     text = re.sub(r"^# (.*)$", lambda match: f"# {match[1]} {{#{label}}}", text, count=1, flags=re.M)
     if path.resolve() == BEHAVIOURS.resolve():
         text = Behaviours(exported()).anchored(text)
-    return linked(with_other_pages(text))
+    return linked(with_programs(with_other_pages(text)))
 
 
 def with_other_pages(index):
