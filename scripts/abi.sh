@@ -20,4 +20,4 @@ if [ "${1:-}" = record ]; then
     exit
 fi
 # Exits with 0 only where nothing was added, removed or changed.
-abidiff --drop-private-types --headers-dir2 include $recorded $library
+abidiff $recorded $library

@@ -160,6 +160,7 @@ TEST(FourCentreHalfAxes, keepTheirTolerancesAndEnd) {
         {"a span of 0.0009 less than a turn is the turn", 2, 1, 0, 2 * kPi - 0.0009, 4},
         {"0.0011 less is not", 2, 1, 0, 2 * kPi - 0.0011, 5},
         {"equal angles are the turn", 2, 1, 1, 1, 4},
+        {"and those apart by no more than 1e-7", 2, 1, 0, 1e-7, 4},
         {"from 0.5e-7 before a bound the next arc starts", 2, 1, kPi / 4 - 0.5e-7, 1, 1},
         {"a start of -2 pi is not 0", 2, 1, -2 * kPi, 0, 0},
         {"NaN angles leave the untouched rows of the oval", 2, 1, kNaN, kNaN, 5},

@@ -75,10 +75,11 @@ struct Step {
 };
 
 TEST(KeptDivision, whatIsKept) {
-    plain::Arc nudged = kArc, turned = kArc, moved = kArc, reversed = kArc;
+    plain::Arc nudged = kArc, turned = kArc, moved = kArc, reversed = kArc, longer = kArc;
     nudged.a += 0.5e-6, nudged.rot += 0.5e-8, nudged.center.x -= 0.5e-6, nudged.end += 0.5e-8;
     turned.start += 2e-8;
     moved.b += 2e-6;
+    longer.a += 2e-6;
     std::swap(reversed.start, reversed.end);
     const Step steps[] = {
         {"the first call measures", kArc, 5, 2, 0, false},
@@ -90,6 +91,7 @@ TEST(KeptDivision, whatIsKept) {
         {"a point above n releases too", nudged, 5, 6, 1, false},
         {"so that this is measured", kArc, 5, 1, 0, false},
         {"another start", turned, 5, 1, 0, false},
+        {"another first axis", longer, 5, 1, 0, false},
         {"another axis", moved, 5, 1, 0, false},
         {"another count", moved, 6, 1, 0, false},
         {"a reversed range is refused", reversed, 6, 1, -1, false},

@@ -123,6 +123,9 @@ TEST(AllFeet, onTheAxesInOrder) {
         }
         expectPoints(got, want, {0, 0});
     }
+    const DTELLIPSE exact = {0, 0, 0, 10, 6, 0, 360, 0};
+    EXPECT_EQ(all(exact, {3.2, 0}).result, 2) << "the cusp itself";
+    EXPECT_EQ(all(exact, {0, 16.0 / 3}).result, 2);
 }
 
 TEST(AllFeet, codesAndWhatIsCleared) {

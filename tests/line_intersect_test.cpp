@@ -111,8 +111,8 @@ TEST(CrossDirections, solvesByTangentsAndNormalisesInPlace) {
         DTPOINT want;
         double wantAngles[2];
     } const cases[] = {
-        {"general", {1, 1, 5, 1}, {45, 135}, 0, {3, 3}, {45, 135}},
-        {"turns are taken off", {1, 1, 5, 1}, {405, -225}, 0, {3, 3}, {45, 135}},
+        {"general", {1, 2, 5, 2}, {45, 135}, 0, {3, 4}, {45, 135}},
+        {"turns are taken off", {1, 2, 5, 2}, {405, -225}, 0, {3, 4}, {45, 135}},
         {"first vertical", {2, 7, 0, 0}, {90, 45}, 0, {2, 2}, {90, 45}},
         {"first vertical downwards", {2, 7, 0, 0}, {-90, 45}, 0, {2, 2}, {270, 45}},
         {"second vertical", {0, 0, 2, 7}, {45, 270}, 0, {2, 2}, {45, 270}},

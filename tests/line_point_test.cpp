@@ -229,6 +229,8 @@ TEST(ProjectionAgainstSegment, setsABitPerEnd) {
          {4, 0},
          {4 + 0.5e-6, 7},
          1},
+        {"past both ends of a short one, in reach", {0, 0}, {1e-7, 0}, {0.5e-6, 7}, 3},
+        {"before both", {0, 0}, {1e-7, 0}, {-0.5e-6, 7}, 3},
         {"no length", {1, 1}, {1, 1}, {3, 3}, 3},
     };
     for (const auto &c : cases) {
