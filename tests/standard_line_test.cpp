@@ -101,6 +101,7 @@ TEST(StandardLine, PointsAndTheirOrder) {
         {"the greater root at x = 0", {0, 1}, {-2, 0}, 4, 2, 2, {0, 1}, {-2, 0}},
         {"second axis longer", {-3, 0}, {3, 0}, 2, 4, 2, {1, 0}, {-1, 0}},
         {"misses", {0, 3}, {6, 0}, 4, 2, 0, {}, {}},
+        {"vertical misses", {3, 5}, {3, 6}, 4, 2, 0, {}, {}},
         {"vertical at A touches", {2, 5}, {2, 6}, 4, 2, 1, {2, 0}, {}},
         {"vertical a little outside, by length^6",
          {0.01 + 2e-6, 5},
