@@ -1,4 +1,4 @@
-/// One execution: calls of any kind, in a row.
+/// One execution: calls of any kind, in a row, or the truths of one scene.
 #pragma once
 
 #include "entry.h"

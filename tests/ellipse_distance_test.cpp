@@ -197,6 +197,12 @@ TEST(NearestPoint, knownAnswers) {
     }
 }
 
+TEST(NearestPoint, hardlyOffTheCentreOfACircle) {
+    const Answer got = ask(a2d_dstpp, {0, 0, 0, 2, 2, 0, 360, 0}, {0, 1e-170});
+    EXPECT_TRUE(near(got.out, {0, 1}, kEpsilon));
+    EXPECT_EQ(got.distance, 1.0);
+}
+
 TEST(NearestPoint, withinErrdistIsThePointItself) {
     const ToleranceGuard guard(1e-3);
     const DTELLIPSE e = {0, 0, 0, 4, 2, 0, 360, 0};

@@ -58,7 +58,8 @@ double ConcaveEquation::halleyStep(double z) const {
     const double value = z < 1.0 ? k * c + p * z - q : p * z + kLessQ - k * s2 / (1.0 + c);
     const double slope = k * s * s2 + p;
     const double bend = -3.0 * k * c * s2 * s2;
-    return -value * slope / (slope * slope - 0.5 * value * bend);
+    // Not over the square of the slope: about the centre of a circle it may underflow.
+    return -value / (slope - 0.5 * value * (bend / slope));
 }
 
 double ConcaveEquation::root() const {
