@@ -121,7 +121,7 @@ def header(text):
                   flags=re.M)
 
 
-def linked(text):
+def linked(text, to_page="@ref"):
     """Names of functions and of pages become links, outside of code blocks."""
     names = exported()
 
@@ -133,7 +133,9 @@ def linked(text):
         words, target = match[1], match[2]
         name = target.split("/")[-1]
         if name in PAGES:
-            return f"@ref {page_label(PAGES[name])} \"{words}\""
+            return f"{to_page} {page_label(PAGES[name])} \"{words}\""
+        if name == "planegeo.h":
+            return f"<a href=\"modules.html\">{words}</a>"
         if re.match(r"https?:", target):
             return match[0]
         return f"{words} (`{target.removeprefix('../')}`)"
@@ -164,14 +166,18 @@ def markdown(path, text):
     text = re.sub(r"^# (.*)$", lambda match: f"# {match[1]} {{#{label}}}", text, count=1, flags=re.M)
     if path.resolve() == BEHAVIOURS.resolve():
         text = Behaviours(exported()).anchored(text)
-    return linked(with_programs(with_other_pages(text)))
+    text = re.sub(r"!\[(.*)\]\((?:.*/)?(.*)\)", r'@image html \2 "\1"', text)
+    return main_page(text) if path.stem == "index" else linked(with_programs(text))
 
 
-def with_other_pages(index):
-    """The main page, with the guides that it does not name at its end."""
-    others = [f"- @subpage {page_label(stem)}" for stem in sorted(PAGES.values())
-              if stem != "index" and f"@subpage {page_label(stem)} " not in index]
-    return index.replace("<!-- other pages -->", "\n".join(others))
+def main_page(text):
+    """The main page, with the gallery and the guides that it does not name."""
+    gallery_line = "- @subpage page_gallery \"Gallery\": every function, drawn by calling it"
+    others = [f"- @subpage {page_label(stem)}" for name, stem in sorted(PAGES.items())
+              if stem != "index" and f"{name})" not in text]
+    text = text.replace("<!-- gallery -->", gallery_line)
+    text = text.replace("<!-- other pages -->", "\n".join(others))
+    return linked(text, to_page="@subpage")
 
 
 def check_choosing():
