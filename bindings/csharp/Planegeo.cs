@@ -1119,8 +1119,9 @@ namespace Planegeo
         /// <remarks>
         /// Sweeps end when all values met in one are below eps, or with the budget. Roots that repeat
         /// themselves bit by bit are carried to its end at once; without that, 10^7 / (n (n + 16))
-        /// sweeps, but at least 1000, are as a budget used up. A NaN does not count as a large value:
-        /// where all are NaN, as with c[2] to c[n] all zero, so are the roots, and the result is 0.
+        /// sweeps, but at least 1000, above degree 126 at least 1.8 10^7 / (n (n + 16)), are as a
+        /// budget used up. A NaN does not count as a large value: where all are NaN, as with c[2] to
+        /// c[n] all zero, so are the roots, and the result is 0.
         /// Cost: some n (n + 16) complex products a sweep.
         /// </remarks>
         /// <param name="c">n + 1 coefficients; c[1] to c[n] are divided by c[0]</param>
@@ -1743,8 +1744,9 @@ namespace Planegeo
         /// <returns>
         /// 0 done; 1 k exceeds n or is below 1, or no memory, or n above 2^20; -1 start exceeds end (at
         /// every call); outputs are untouched in these cases. -2 from the call that measures: the
-        /// length does not settle, or the span exceeds 1440 degrees; the length is 0 and every point
-        /// the end
+        /// length does not settle, the span exceeds 36000 degrees, or it exceeds 1440 and the arc is
+        /// too thin (an axis below some fifth of the other) or n too large (22500, in any case 65536)
+        /// to be divided without a walk over it; the length is 0 and every point the end
         /// </returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int a2d_elpdn([In] ref DTPOINT center, double a, double b, double rot,
