@@ -77,7 +77,7 @@ int32_t a2d_ins2l(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *b1, const
     store(point, out);
     const bool isOnA = onSegment(a, point) == OnSegment::yes;
     const bool isOnB = onSegment(b, point) == OnSegment::yes;
-    return isOnA & isOnB ? 0 : 1;
+    return (isOnA & isOnB) ? 0 : 1;
 }
 
 int32_t ca_ins2l(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *b1, const DTPOINT *b2,

@@ -37,10 +37,12 @@ inline OnSegment onSegment(const Segment &segment, Vec2 q) {
     const bool isOff = distanceTimesLength > 2.0 * tolerance * longer;
     const bool isOn = distanceTimesLength < 0.5 * tolerance * longer;
     const bool isLong = (longer > 2.0 * tolerance) & (longer < kFarFromOverflow);
-    const bool isAtEnd = isWithinBox(fromStart, tolerance) | isWithinBox(fromEnd, tolerance);
-    if (!((isOff | isOn) & isLong) || isAtEnd) return onSegmentByDistance(segment, q);
-    const bool isBetween = (dot(direction, fromStart) >= 0.0) & (dot(-direction, fromEnd) >= 0.0);
-    return isOn & isBetween ? OnSegment::yes : OnSegment::no;
+    const bool isAtStart = isWithinBox(fromStart, tolerance);
+    const bool isAtEnd = isWithinBox(fromEnd, tolerance);
+    if (!((isOff | isOn) & isLong) || (isAtStart | isAtEnd)) return onSegmentByDistance(segment, q);
+    const bool isBeyondStart = dot(direction, fromStart) >= 0.0;
+    const bool isBeforeEnd = dot(-direction, fromEnd) >= 0.0;
+    return (isOn & isBeyondStart & isBeforeEnd) ? OnSegment::yes : OnSegment::no;
 }
 
 } // namespace planegeo
