@@ -161,10 +161,21 @@ inline PointAndEllipse wholeEllipse(Random &random) {
     const DTPOINT p = random.point(), center = random.point();
     return {p, center, std::fmax(a, b), std::fmin(a, b), random.angleDeg(), {0.0, 360.0}};
 }
+/// No flatter than 4 : 1, as most in drawings are.
+inline PointAndEllipse roundedEllipse(Random &random) {
+    PointAndEllipse in = wholeEllipse(random);
+    in.b = in.a * random.uniform(0.25, 1.0);
+    return in;
+}
 inline PointAndEllipse ellipticArc(Random &random) {
     PointAndEllipse in = wholeEllipse(random);
     in.angles[0] = random.angleDeg();
     in.angles[1] = in.angles[0] + random.angleDeg();
+    return in;
+}
+inline PointAndEllipse roundedArc(Random &random) {
+    PointAndEllipse in = ellipticArc(random);
+    in.b = in.a * random.uniform(0.25, 1.0);
     return in;
 }
 

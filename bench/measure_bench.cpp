@@ -21,14 +21,15 @@ Angle angle(bench::Random &random) { return {random.angleDeg()}; }
 
 /// A call, or several, on the one ellipse, with its half axes in the parameter table.
 template <class Call> int single(const char *name, Call call, int calls = 1) {
-    benchmark::RegisterBenchmark(name, [call, calls](benchmark::State &state) {
+    benchmark::RegisterBenchmark(name, [name, call, calls](benchmark::State &state) {
         ca_Simpson_getParmtbl()[0] = kHalfFirst;
         ca_Simpson_getParmtbl()[1] = kHalfSecond;
+        bench::beginCounting();
         for (auto _ : state) {
             benchmark::DoNotOptimize(call());
         }
-        state.counters["per_call"] = benchmark::Counter(
-            calls, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+        bench::endCounting(name);
+        state.counters["per_call"] = bench::perCall(calls);
     });
     return 0;
 }

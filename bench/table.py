@@ -1,9 +1,11 @@
 #!/usr/bin/env python3
-"""Turns the JSON of a run of planegeo_bench into the tables of bench/README.md.
+"""Turns the JSON of a run of planegeo_bench into the tables of bench/README.md, or writes them there.
 
 The figure of a row is the least of its repetitions: what others on the machine take only adds.
 """
 
+import contextlib
+import io
 import json
 import re
 import statistics
@@ -88,7 +90,7 @@ def print_functions(rows):
     for name, row in rows.items():
         if re.match(r"(peers|floor|plain|latency|threads)/", name):
             continue
-        limit = limits.get(name.split("/")[0]) if name.split("/")[-1] != "host" else None
+        limit = limits.get(name)
         chain = rows.get("latency/" + name)
         threads = rows.get("threads/" + name)
         print("| `{}` | {} | {} | {} | {} | {} |".format(
@@ -108,13 +110,34 @@ def print_floors(rows):
     print()
 
 
+def print_setting(path):
+    context = json.load(open(path))["context"]
+    told = [context[key].replace(";", ",") for key in ("machine", "versions") if key in context]
+    told.append(f"load average {context['load_avg'][0]:.1f}")
+    print("; ".join(told) + f"; {context['date'][:10]}.\n")
+
+
+BEGIN, END = "<!-- tables of a run -->\n", "<!-- end of the tables -->\n"
+
+
 def main():
-    if len(sys.argv) != 2:
-        sys.exit(f"usage: {sys.argv[0]} RUN.json")
-    rows = read(sys.argv[1])
-    print_peers(rows)
-    print_floors(rows)
-    print_functions(rows)
+    arguments = sys.argv[1:]
+    if len(arguments) not in (1, 3) or arguments[1:2] not in ([], ["--into"]):
+        sys.exit(f"usage: {sys.argv[0]} RUN.json [--into README.md]")
+    rows = read(arguments[0])
+    tables = io.StringIO()
+    with contextlib.redirect_stdout(tables):
+        print_setting(arguments[0])
+        print_peers(rows)
+        print_floors(rows)
+        print_functions(rows)
+    if len(arguments) == 1:
+        print(tables.getvalue(), end="")
+        return
+    text = Path(arguments[2]).read_text()
+    before, rest = text.split(BEGIN)
+    Path(arguments[2]).write_text(before + BEGIN + "\n" + tables.getvalue() + "\n" + END +
+                                  rest.split(END)[1])
 
 
 main()

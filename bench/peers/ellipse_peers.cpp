@@ -306,8 +306,8 @@ double eccentricity(const PointAndEllipse &in) {
     return std::sqrt((in.a - in.b) * (in.a + in.b)) / in.a;
 }
 
-const int kCircumference =
-    Comparison("length of an ellipse", wholeEllipse)
+template <class Make> int circumference(const char *task, Make make) {
+    return Comparison(task, make)
         .ours("ca_ElpLen",
               [](const PointAndEllipse &in) {
                   tellAxes(in);
@@ -329,7 +329,9 @@ const int kCircumference =
         .peer("GSL", same, [](const PointAndEllipse &in) {
             return one(2.0 * in.a * gsl_sf_ellint_Ecomp(eccentricity(in), GSL_PREC_DOUBLE));
         });
-
+}
+const int kCircumference[] = {circumference("length of an ellipse", roundedEllipse),
+                              circumference("length of an ellipse, up to flat ones", wholeEllipse)};
 /// The length from a parameter to another by an elliptic integral of the second kind, whose angle
 /// is measured from the short axis.
 template <class Integral> Answer lengthBy(const PointAndEllipse &in, Integral integral) {
@@ -338,8 +340,8 @@ template <class Integral> Answer lengthBy(const PointAndEllipse &in, Integral in
     return one(in.a / 2 * (from(in.angles[1]) - from(in.angles[0])));
 }
 
-const int kLength =
-    Comparison("length of an elliptic arc", ellipticArc)
+template <class Make> int arcLength(const char *task, Make make) {
+    return Comparison(task, make)
         .ours("ca_Simpson",
               [](const PointAndEllipse &in) {
                   tellAxes(in);
@@ -364,12 +366,14 @@ const int kLength =
             return lengthBy(
                 in, [](double k, double phi) { return gsl_sf_ellint_E(phi, k, GSL_PREC_DOUBLE); });
         });
-
+}
+const int kLength[] = {arcLength("length of an elliptic arc", roundedArc),
+                       arcLength("length of an elliptic arc, up to flat ones", ellipticArc)};
 /// The length of the arc wanted; it ends before a turn.
 double wanted(const PointAndEllipse &in) { return 0.8 * in.a; }
 
-const int kPointAtLength =
-    Comparison("end of an arc of given length", ellipticArc, 1e-5)
+template <class Make> int endAtLength(const char *task, Make make) {
+    return Comparison(task, make, 1e-5)
         .ours("ca_ElpLen2",
               [](const PointAndEllipse &in) {
                   tellAxes(in);
@@ -399,11 +403,14 @@ const int kPointAtLength =
                 step, start + wanted(in) / (in.a / 2), start, start + 2.0 * M_PI, 40);
             return one(std::cos(end));
         });
-
+}
+const int kPointAtLength[] = {
+    endAtLength("end of an arc of given length", roundedArc),
+    endAtLength("end of an arc of given length, up to flat ones", ellipticArc)};
 constexpr int kPieces = 12;
 
-const int kEqualParts =
-    Comparison("twelve equal parts", wholeEllipse, 1e-4) // a2d_elpdn takes steps of 0.001 degrees
+template <class Make> int equalParts(const char *task, Make make) {
+    return Comparison(task, make, 1e-4) // a2d_elpdn takes steps of 0.001 degrees
         .ours("a2d_elpdn",
               [](const PointAndEllipse &in) {
                   Answer answer;
@@ -452,5 +459,7 @@ const int kEqualParts =
             }
             return answer;
         });
-
+}
+const int kEqualParts[] = {equalParts("twelve equal parts", roundedEllipse),
+                           equalParts("twelve equal parts, up to flat ones", wholeEllipse)};
 } // namespace

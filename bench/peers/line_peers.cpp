@@ -1,7 +1,5 @@
 // Points, lines and segments beside CGAL, Boost.Geometry, GEOS and Open CASCADE.
 
-#include <variant>
-
 #include <CGAL/Exact_predicates_inexact_constructions_kernel.h>
 #include <CGAL/Simple_cartesian.h>
 #include <CGAL/intersections.h>
@@ -33,20 +31,24 @@ template <class First, class Second> struct Pair {
 };
 
 template <class Kernel>
-Pair<typename Kernel::Line_2, typename Kernel::Line_2> cgalLines(const TwoLines &in) {
-    return {{cgal<Kernel>(in.a1), cgal<Kernel>(in.a2)}, {cgal<Kernel>(in.b1), cgal<Kernel>(in.b2)}};
-}
-template <class Kernel>
 Pair<typename Kernel::Segment_2, typename Kernel::Segment_2> cgalSegments(const TwoLines &in) {
     return {{cgal<Kernel>(in.a1), cgal<Kernel>(in.a2)}, {cgal<Kernel>(in.b1), cgal<Kernel>(in.b2)}};
 }
-template <class Kernel, class Two> Answer cgalCrossing(const Two &in) {
+template <class Kernel, class Result> Answer cgalPoint(const Result &result) {
     Answer answer;
-    if (const auto result = CGAL::intersection(in.first, in.second)) {
-        if (const auto *p = boost::get<typename Kernel::Point_2>(&*result))
-            answer.add(p->x(), p->y());
-    }
+    if (!result) return answer;
+    if (const auto *p = boost::get<typename Kernel::Point_2>(&*result)) answer.add(p->x(), p->y());
     return answer;
+}
+template <class Kernel> using CgalSegments = decltype(cgalSegments<Kernel>({}));
+
+/// The lines are made of the segments in the call, as ours are of the points.
+template <class Kernel> Answer cgalLinesCross(const CgalSegments<Kernel> &in) {
+    return cgalPoint<Kernel>(
+        CGAL::intersection(in.first.supporting_line(), in.second.supporting_line()));
+}
+template <class Kernel> Answer cgalSegmentsCross(const CgalSegments<Kernel> &in) {
+    return cgalPoint<Kernel>(CGAL::intersection(in.first, in.second));
 }
 
 struct OcctLines {
@@ -59,21 +61,21 @@ OcctLines occtLines(const TwoLines &in) {
 }
 bool isWithin(double parameter, double length) { return parameter >= 0.0 && parameter <= length; }
 
-const int kLinesCross =
-    Comparison("line with line", twoLines)
-        .ours("a2dCrs2L",
-              [](const TwoLines &in) {
-                  Answer answer;
-                  DTPOINT p;
-                  if (a2dCrs2L(&in.a1, &in.a2, &in.b1, &in.b2, &p) == 1) answer.add(p);
-                  return answer;
-              })
-        .peer("CGAL (plain)", cgalLines<Plain>, cgalCrossing<Plain, decltype(cgalLines<Plain>({}))>)
-        .peer("CGAL (exact)", cgalLines<Exact>, cgalCrossing<Exact, decltype(cgalLines<Exact>({}))>)
-        .peer("OCCT", occtLines, [](const OcctLines &in) {
-            const IntAna2d_AnaIntersection found(in.a, in.b);
-            return occt::points(found);
-        });
+const int kLinesCross = Comparison("line with line", twoLines)
+                            .ours("a2dCrs2L",
+                                  [](const TwoLines &in) {
+                                      Answer answer;
+                                      DTPOINT p;
+                                      if (a2dCrs2L(&in.a1, &in.a2, &in.b1, &in.b2, &p) == 1)
+                                          answer.add(p);
+                                      return answer;
+                                  })
+                            .peer("CGAL (plain)", cgalSegments<Plain>, cgalLinesCross<Plain>)
+                            .peer("CGAL (exact)", cgalSegments<Exact>, cgalLinesCross<Exact>)
+                            .peer("OCCT", occtLines, [](const OcctLines &in) {
+                                const IntAna2d_AnaIntersection found(in.a, in.b);
+                                return occt::points(found);
+                            });
 
 const int kSegmentsCross =
     Comparison("segment with segment", twoLines)
@@ -84,10 +86,8 @@ const int kSegmentsCross =
                   if (ca_ins2l(&in.a1, &in.a2, &in.b1, &in.b2, &p) == 0) answer.add(p);
                   return answer;
               })
-        .peer("CGAL (plain)", cgalSegments<Plain>,
-              cgalCrossing<Plain, decltype(cgalSegments<Plain>({}))>)
-        .peer("CGAL (exact)", cgalSegments<Exact>,
-              cgalCrossing<Exact, decltype(cgalSegments<Exact>({}))>)
+        .peer("CGAL (plain)", cgalSegments<Plain>, cgalSegmentsCross<Plain>)
+        .peer("CGAL (exact)", cgalSegments<Exact>, cgalSegmentsCross<Exact>)
         .peer(
             "Boost",
             [](const TwoLines &in) {
@@ -123,9 +123,11 @@ const int kSegmentsCross =
         });
 
 template <class Kernel>
-Pair<typename Kernel::Point_2, typename Kernel::Line_2> cgalPointLine(const PointAndLine &in) {
+Pair<typename Kernel::Point_2, typename Kernel::Segment_2>
+cgalPointSegment(const PointAndLine &in) {
     return {cgal<Kernel>(in.p), {cgal<Kernel>(in.a1), cgal<Kernel>(in.a2)}};
 }
+
 struct OcctPointLine {
     gp_Pnt2d p;
     gp_Lin2d line;
@@ -147,10 +149,10 @@ const int kPerpendicular =
                   }
                   return answer;
               })
-        .peer("CGAL (plain)", cgalPointLine<Plain>,
-              [](const Pair<Plain::Point_2, Plain::Line_2> &in) {
+        .peer("CGAL (plain)", cgalPointSegment<Plain>,
+              [](const Pair<Plain::Point_2, Plain::Segment_2> &in) {
                   Answer answer;
-                  const Plain::Point_2 foot = in.second.projection(in.first);
+                  const Plain::Point_2 foot = in.second.supporting_line().projection(in.first);
                   answer.add(foot.x(), foot.y());
                   answer.add(std::sqrt(CGAL::squared_distance(in.first, foot)));
                   return answer;
@@ -165,12 +167,6 @@ const int kPerpendicular =
             }
             return answer;
         });
-
-template <class Kernel>
-Pair<typename Kernel::Point_2, typename Kernel::Segment_2>
-cgalPointSegment(const PointAndLine &in) {
-    return {cgal<Kernel>(in.p), {cgal<Kernel>(in.a1), cgal<Kernel>(in.a2)}};
-}
 
 /// A point counts as on the segment within this distance, as by errdist at load.
 constexpr double kTolerance = 1e-6;

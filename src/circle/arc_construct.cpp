@@ -97,10 +97,10 @@ int32_t ca_arc2pratio(int32_t dir, double ratio, double x1, double y1, double x2
     const Vec2 start = {x1, y1};
     const Vec2 end = {x2, y2};
     const Vec2 chord = end - start;
-    if (hypotLength(chord) < kShortestChord) return 1;
+    if (isShorterThan(chord, kShortestChord)) return 1;
     const Vec2 outward = dir == 0 ? leftNormal(chord) : -leftNormal(chord);
     const Vec2 middle = (start + end) * 0.5 + outward * ratio;
-    if (hypotLength(middle - start) < kMiddleToEnd || hypotLength(middle - end) < kMiddleToEnd) {
+    if (isShorterThan(middle - start, kMiddleToEnd) || isShorterThan(middle - end, kMiddleToEnd)) {
         return 1;
     }
     std::optional<Arc> arc = arcThrough(start, middle, end);

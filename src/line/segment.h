@@ -24,8 +24,9 @@ enum class OnSegment : std::int32_t { yes = 0, no = 1, segmentTooShort = -1 };
 OnSegment onSegmentByDistance(const Segment &segment, Vec2 q);
 
 /// Whether a point lies on a segment within errdist; the ends are asked before the length. One that
-/// is not even near to a decision costs no root and no branch that hangs on where it lies.
-inline OnSegment onSegment(const Segment &segment, Vec2 q) {
+/// is not even near to a decision costs no root and no branch that hangs on where it lies. Inlined
+/// always: a segment handed over in memory would be read before it is written.
+[[gnu::always_inline]] inline OnSegment onSegment(const Segment &segment, Vec2 q) {
     constexpr double kFarFromOverflow = 0x1p1000;
     const double tolerance = distanceTolerance();
     const Vec2 fromStart = q - segment.start;
