@@ -148,6 +148,7 @@ def linked(text, to_page="@ref"):
         if not in_code and not line.startswith("    "):
             line = re.sub(r"(?<!!)\[([^]]*)\]\(([^)#]*)\)", page_link, line)
             line = re.sub(r"`(\w+)(?:\(\))?`", name_link, line)
+            line = re.sub(r"\*\*(.+?)\*\*", r"<b>\1</b>", line)  # Doxygen takes few of them
         out.append(line)
     return "\n".join(out) + "\n"
 
