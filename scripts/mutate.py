@@ -5,8 +5,8 @@ unit tests let live.
 A mutant is a comparison with its strictness or sense changed, a sign, an order (two coordinates,
 two ends, sine and cosine, the lesser and the greater), a tolerance (four times or a quarter of
 itself) or another number. Which are made depends on the seed and on the lines alone, so that an
-edit elsewhere does not change them; each file gets its share. scripts/equivalent_mutants.txt lists those
-that change no answer, with the reason; they do not count.
+edit elsewhere does not change them; each file gets its share. scripts/equivalent_mutants.txt lists
+those that change no answer, with the reason; they do not count.
 
 Needs g++ and GoogleTest; ccache makes the second run cheap.
 """
@@ -156,6 +156,14 @@ def equivalents():
         elif line.startswith("+ "):
             listed.add((path, before, line[2:].strip()))
     return listed
+
+
+def survivors(log, by_file):
+    """The mutants that the output of an earlier run says live."""
+    keys = set(re.findall(r"^LIVES (\S+?):\d+: \w+\n- (.*)\n\+ (.*)$", Path(log).read_text(),
+                          re.MULTILINE))
+    found = {m.key: m for mutants in by_file.values() for m in mutants if m.key in keys}
+    return list(found.values())
 
 
 def run(command, **more):
@@ -316,6 +324,7 @@ def main():
     parser.add_argument("--jobs", type=int, default=os.cpu_count())
     parser.add_argument("--only", default="", help="a pattern that the path must match")
     parser.add_argument("--at-least", type=float, default=90.0, help="percent to be caught")
+    parser.add_argument("--again", help="output of a run: try those that lived in it, and no other")
     parser.add_argument("--list", action="store_true", help="show the mutants, try none")
     parser.add_argument("--matrix", help="file for every failure of every mutant, as JSON")
     arguments = parser.parse_args()
@@ -324,7 +333,9 @@ def main():
     by_file = {path: mutants for path, mutants in all_mutants(arguments.seed).items()
                if re.search(arguments.only, str(path))}
     listed = equivalents()
-    mutants = [m for m in selected(by_file, arguments.count) if m.key not in listed]
+    chosen = (survivors(arguments.again, by_file) if arguments.again
+              else selected(by_file, arguments.count))
+    mutants = [m for m in chosen if m.key not in listed]
     if arguments.list:
         print("\n".join(map(str, mutants)))
         return 0

@@ -162,6 +162,7 @@ TEST(OnEllipseArc, asksForTheCurveThenTheRange) {
     const double whole[] = {0, 0};
     const DTPOINT p = fromCenter({1e4, 0});
     EXPECT_EQ(ca_onelp(&kCenter, 2e4, 2, 0.9e-6, whole, &p), 0) << "foci not turned";
+    EXPECT_EQ(ca_onelp(&kCenter, 2e4, 2, 1.1e-6, whole, &p), 1) << "turned";
     const DTPOINT end = fromCenter({0, 1e4});
     EXPECT_EQ(ca_onelp(&kCenter, 2, 2e4, 0.9e-6, whole, &end), 0) << "nor those of the second axis";
 }
