@@ -101,6 +101,7 @@ TEST(TurnedArc, keepsAnglesWithinATurnAndFullCirclesWhole) {
         {"2e-7 short of a turn", 1, 1 + turn - 2e-7, 1, 2 - turn, 2 - 2e-7},
         {"a turn of 1e-7 is none", 1, 1, 1e-7, 1, 1},
         {"a turn of 2e-7", 1, 1, -2e-7, 0, turn},
+        {"a start at the whole turn stays", 0, -1, turn, turn, turn - 1},
     };
     for (const auto &c : cases) {
         DTPOINT center = shifted({2, 0});

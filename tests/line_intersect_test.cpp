@@ -23,7 +23,7 @@ TEST(CrossLines, comparesTheRawDeterminant) {
         {"beyond both segments", {{0, 0}, {1, 0}, {5, 2}, {5, 1}}, 1, {5, 0}},
         {"parallel", {{0, 0}, {1, 0}, {0, 1}, {1, 1}}, 0, kUntouchedPoint},
         {"determinant 0.5e-6", {{0, 0}, {1, 0}, {0, 0}, {1, 0.5e-6}}, 0, kUntouchedPoint},
-        {"determinant 2e-6", {{0, 0}, {1, 0}, {0, 0}, {1, 2e-6}}, 1, {0, 0}},
+        {"determinant 1e-6", {{0, 0}, {1, 0}, {0, 0}, {1, 1e-6}}, 1, {0, 0}},
         {"perpendicular but short", {{3, 4}, {3.0005, 4}, {3, 4}, {3, 4.001}}, 0, kUntouchedPoint},
     };
     for (const auto &c : cases) {

@@ -218,6 +218,7 @@ TEST(ProjectionAgainstSegment, setsABitPerEnd) {
         {"between", {0, 0}, {4, 0}, {1, 5}, 3},
         {"beyond the end", {0, 0}, {4, 0}, {5, 5}, 1},
         {"before the start", {0, 0}, {4, 0}, {-1, 5}, 2},
+        {"beyond the end of an upright one", {0, 0}, {0, 4}, {5, 5}, 1},
         {"at the end", {0, 0}, {4, 0}, {4, 0}, 3},
         {"0.5e-6 beyond the end", {0, 0}, {4, 0}, {4 + 0.5e-6, 0}, 3},
         {"2e-6 beyond the end", {0, 0}, {4, 0}, {4 + 2e-6, 0}, 1},

@@ -89,6 +89,8 @@ TEST(Direction, snapsToTheAxes) {
         const DTPOINT from = {8, -16}, to = {from.x + c.to.x, from.y + c.to.y};
         EXPECT_NEAR(ca_vcrad(&from, &to), c.want, c.to.y == 2e-7 ? 4e-15 : 0.0) << c.about;
     }
+    const DTPOINT from = {0, 0}, noX = {kNaN, 0}, noY = {0, kNaN};
+    EXPECT_TRUE(std::isnan(ca_vcrad(&from, &noX)) && std::isnan(ca_vcrad(&from, &noY)));
 }
 
 TEST(Distance, isThePlainRootOfTheSumOfSquares) {
