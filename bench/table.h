@@ -51,6 +51,7 @@ template <class Make> Table<Make> table(Make make) {
 
 inline benchmark::Counter perCall(double calls) {
     return benchmark::Counter(calls, benchmark::Counter::kIsIterationInvariantRate |
+                                         benchmark::Counter::kAvgThreads |
                                          benchmark::Counter::kInvert);
 }
 

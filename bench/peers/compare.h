@@ -2,6 +2,8 @@
 /// compared beside the times.
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -28,13 +30,14 @@ struct Answer {
 };
 
 /// Rows `peers/TASK/WHO`, the first of them ours, with counters: `solutions` found over the table,
-/// and `agree`, the number of inputs to which the answer is that of our first row.
+/// and `agree`, the number of inputs to which the answer is that of our first row. Nothing is asked
+/// before a row runs.
 template <class Make> class Comparison {
   public:
     using Input = std::invoke_result_t<Make, Random &>;
 
     Comparison(std::string task, Make make, double tolerance = 1e-6)
-        : task_(std::move(task)), inputs_(table(make)), tolerance_(tolerance) {}
+        : task_(std::move(task)), make_(make), tolerance_(tolerance) {}
 
     /// `call(input)` gives an Answer.
     template <class Call> Comparison &ours(const char *function, Call call) {
@@ -46,39 +49,62 @@ template <class Make> class Comparison {
     /// that uses the peer holds its geometry in them.
     template <class Convert, class Call>
     Comparison &peer(const std::string &who, Convert convert, Call call) {
+        const auto answers = [make = make_, convert, call] {
+            std::vector<Answer> all;
+            for (const Input &input : table(make)) {
+                all.push_back(call(convert(input)));
+            }
+            return all;
+        };
+        if (!reference_) reference_ = answers;
+        const auto countOnce = [answers, reference = reference_, tolerance = tolerance_,
+                                counts = std::make_shared<std::optional<Counts>>()] {
+            if (!*counts) *counts = Counts::of(answers(), reference(), tolerance);
+            return **counts;
+        };
         using Own = std::decay_t<std::invoke_result_t<Convert, const Input &>>;
-        auto own = std::make_shared<std::vector<Own>>();
-        for (const Input &input : inputs_) {
-            own->push_back(convert(input));
-        }
-        double solutions = 0.0, agree = 0.0;
-        const bool isFirst = answers_.empty();
-        for (std::size_t i = 0; i < own->size(); ++i) {
-            const Answer answer = call((*own)[i]);
-            if (isFirst) answers_.push_back(answer);
-            solutions += answer.count;
-            agree += answers_[i].agreesWith(answer, tolerance_) ? 1.0 : 0.0;
-        }
+        const auto own = std::make_shared<std::vector<Own>>();
         const std::string name = "peers/" + task_ + "/" + who;
-        benchmark::RegisterBenchmark(name.c_str(),
-                                     [name, own, call, solutions, agree](benchmark::State &state) {
-                                         run(state, name, *own, [call](const Own &in) {
-                                             const Answer answer = call(in);
-                                             return answer.count + answer.sum;
-                                         });
-                                         state.counters["solutions"] = solutions;
-                                         state.counters["agree"] = agree;
-                                     });
+        benchmark::RegisterBenchmark(name.c_str(), [name, own, countOnce, make = make_, convert,
+                                                    call](benchmark::State &state) {
+            if (own->empty()) {
+                for (const Input &input : table(make)) {
+                    own->push_back(convert(input));
+                }
+            }
+            run(state, name, *own, [call](const Own &in) {
+                const Answer answer = call(in);
+                return answer.count + answer.sum;
+            });
+            const Counts counts = countOnce();
+            state.counters["solutions"] = counts.solutions;
+            state.counters["agree"] = counts.agree;
+        });
         return *this;
     }
 
     operator int() const { return 0; }
 
   private:
+    struct Counts {
+        double solutions = 0.0;
+        double agree = 0.0;
+
+        static Counts of(const std::vector<Answer> &answers, const std::vector<Answer> &reference,
+                         double tolerance) {
+            Counts counts;
+            for (std::size_t i = 0; i < answers.size(); ++i) {
+                counts.solutions += answers[i].count;
+                counts.agree += reference[i].agreesWith(answers[i], tolerance) ? 1.0 : 0.0;
+            }
+            return counts;
+        }
+    };
+
     std::string task_;
-    Table<Make> inputs_;
+    Make make_;
     double tolerance_;
-    std::vector<Answer> answers_;
+    std::function<std::vector<Answer>()> reference_;
 };
 
 } // namespace bench
