@@ -2,6 +2,8 @@
 
 #include "support.h"
 
+#include "base/angle.h"
+
 using namespace support;
 
 namespace {
@@ -165,4 +167,17 @@ TEST(GetBedeg, exchangesWhenTheSensesDiffer) {
     a2d_GetBedeg(1, -1, 30, 60, &start, &end);
     EXPECT_EQ(start, 60);
     EXPECT_EQ(end, 30);
+}
+
+// The bound on which every short cut by a coarse direction rests.
+TEST(CoarseDirection, isWithinItsBoundAllRound) {
+    for (int i = 1; i < 72000; ++i) {
+        const double rad = 0.005 * i * planegeo::kRadPerDeg;
+        for (const double size : {1e-100, 1.0, 1e100}) {
+            const planegeo::Vec2 v = {size * std::cos(rad), size * std::sin(rad)};
+            ASSERT_NEAR(planegeo::coarseDirectionDeg(v), planegeo::directionDeg(v),
+                        planegeo::kCoarseDeg)
+                << 0.005 * i;
+        }
+    }
 }
