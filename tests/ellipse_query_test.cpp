@@ -138,6 +138,10 @@ TEST(OnEllipseArc, asksForTheCurveThenTheRange) {
     } const cases[] = {
         {"on the arc", 8, 4, 30, 20, 200, localAt(8, 4, 100), 0},
         {"on the curve, not on the arc", 8, 4, 30, 20, 200, localAt(8, 4, 210), 1},
+        {"1e-4 before the end", 8, 4, 30, 20, 200, localAt(8, 4, 200 - 1e-4), 0},
+        {"1e-4 beyond the end", 8, 4, 30, 20, 200, localAt(8, 4, 200 + 1e-4), 1},
+        {"1e-4 before the start", 8, 4, 30, 20, 200, localAt(8, 4, 20 - 1e-4), 1},
+        {"1e-4 beyond the start", 8, 4, 30, 20, 200, localAt(8, 4, 20 + 1e-4), 0},
         {"polar, not parametric: 45 is the direction of 63", 8, 4, 0, 0, 50, localAt(8, 4, 49), 0},
         {"second axis the longer one", 4, 8, 30, 20, 200, localAt(4, 8, 100), 0},
         {"outside by 0.4e-6 at the first axis", 8, 4, 0, 0, 0, {4 + 0.4e-6, 0}, 0},
