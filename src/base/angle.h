@@ -102,10 +102,10 @@ struct AngleRange {
     /// Both ends may be any finite angles; equal ones mean the full circle.
     static Normalised normalised(double start, double end);
 
-    /// Whether a normalised range holds an angle, both ends with kAngleSlackDeg.
     /// A normalised range that lacks less than kAngleSlackDeg of a turn holds every angle.
     bool isWholeTurn() const { return end - start > 360.0 - kAngleSlackDeg; }
 
+    /// Whether a normalised range holds an angle, both ends with kAngleSlackDeg.
     bool contains(double angle) const {
         // At the wrap edge (a start just below 360, an end at 0) hardly anything is left of
         // the range; on purpose it then accepts every angle.

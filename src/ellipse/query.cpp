@@ -70,18 +70,22 @@ EllipticArc::EllipticArc(const EllipseFrame &frame, double rotationDeg, AngleRan
 OnEllipseArc EllipticArc::holds(Vec2 point) const {
     const OnEllipseArc curve = onCurve(point, frame_, rotationDeg_);
     if (curve != OnEllipseArc::yes) return curve;
+    return isBetweenEnds(point) ? OnEllipseArc::yes : OnEllipseArc::no;
+}
+
+bool EllipticArc::isBetweenEnds(Vec2 point) const {
     const auto exact = [this] { return AngleRange{polarEndDeg(start_), polarEndDeg(end_)}; };
-    const bool isBetween = holdsSnappedDirection(
+    return holdsSnappedDirection(
         point - frame_.center, rotationDeg_, coarse_, exact,
         [](AngleRange range, double deg) { return inPolarRange(range, deg); });
-    return isBetween ? OnEllipseArc::yes : OnEllipseArc::no;
 }
 
 OnEllipseArc onEllipseArc(Vec2 point, const EllipseFrame &frame, double rotationDeg,
                           AngleRange parameters) {
     const OnEllipseArc curve = onCurve(point, frame, rotationDeg);
     if (curve != OnEllipseArc::yes) return curve;
-    return EllipticArc(frame, rotationDeg, parameters).holds(point);
+    const EllipticArc arc(frame, rotationDeg, parameters);
+    return arc.isBetweenEnds(point) ? OnEllipseArc::yes : OnEllipseArc::no;
 }
 
 } // namespace planegeo

@@ -36,6 +36,8 @@ class EllipticArc {
   public:
     EllipticArc(const EllipseFrame &frame, double rotationDeg, AngleRange parameters);
     OnEllipseArc holds(Vec2 point) const;
+    /// The same of a point that is known to lie on the curve.
+    bool isBetweenEnds(Vec2 point) const;
 
   private:
     EllipseFrame frame_;
