@@ -1,9 +1,11 @@
-// Executes files, without a fuzzer, and tells the longest call of each function; after --tell also
-// every call before it is made.
+// Executes without a fuzzer, and tells the longest call of each function. Arguments: files; --tell,
+// before which files every call is told before it is made; --random SECONDS SEED, for inputs that the
+// seed decides.
 
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <string>
 
 #include "harness.h"
 
@@ -13,17 +15,45 @@ using namespace fuzz;
 
 struct Slowest {
     std::chrono::nanoseconds time;
-    const char *file;
+    std::string input;
 };
 
-const char *current = nullptr;
+std::string current;
+std::uint64_t calls = 0;
 std::vector<Slowest> &slowest() {
     static std::vector<Slowest> times(kEntries.size());
     return times;
 }
 
 void note(std::size_t entry, std::chrono::nanoseconds time) {
+    ++calls;
     if (time > slowest()[entry].time) slowest()[entry] = {time, current};
+}
+
+void executeFile(const char *name, Frame &frame) {
+    current = name;
+    std::ifstream file(name, std::ios::binary);
+    const std::vector<char> bytes{std::istreambuf_iterator<char>(file), {}};
+    execute(reinterpret_cast<const std::uint8_t *>(bytes.data()), bytes.size(), frame, note);
+}
+
+/// The input itself names the execution: its eight bytes are the seed and the turn, mixed.
+void executeRandom(std::chrono::seconds time, std::uint64_t seed, Frame &frame) {
+    const auto end = std::chrono::steady_clock::now() + time;
+    std::uint64_t turn = 0;
+    for (; std::chrono::steady_clock::now() < end; ++turn) {
+        std::uint64_t bits = (seed << 40 | turn) * 0x9e3779b97f4a7c15u;
+        bits = (bits ^ (bits >> 32)) * 0xd6e8feb86659fd93u;
+        bits ^= bits >> 32;
+        std::uint8_t bytes[sizeof bits];
+        std::memcpy(bytes, &bits, sizeof bits);
+        char name[17];
+        std::snprintf(name, sizeof name, "%016llx", static_cast<unsigned long long>(bits));
+        current = name;
+        execute(bytes, sizeof bytes, frame, note);
+    }
+    std::printf("%llu executions, %llu calls\n", static_cast<unsigned long long>(turn),
+                static_cast<unsigned long long>(calls));
 }
 
 } // namespace
@@ -31,18 +61,21 @@ void note(std::size_t entry, std::chrono::nanoseconds time) {
 int main(int argc, char **argv) {
     Frame frame;
     for (int i = 1; i < argc; ++i) {
-        current = argv[i];
-        if (std::strcmp(current, "--tell") == 0) {
+        const std::string argument = argv[i];
+        if (argument == "--tell") {
             frame.tells = true;
-            continue;
+        } else if (argument == "--random" && i + 2 < argc) {
+            executeRandom(std::chrono::seconds(std::atoi(argv[i + 1])),
+                          std::strtoull(argv[i + 2], nullptr, 10), frame);
+            i += 2;
+        } else {
+            executeFile(argv[i], frame);
         }
-        std::ifstream file(current, std::ios::binary);
-        const std::vector<char> bytes{std::istreambuf_iterator<char>(file), {}};
-        execute(reinterpret_cast<const std::uint8_t *>(bytes.data()), bytes.size(), frame, note);
     }
     for (std::size_t i = 0; i < kEntries.size(); ++i) {
         const Slowest &s = slowest()[i];
         std::printf("%-34s %10.3f ms  %s\n", kEntries[i].name(),
-                    static_cast<double>(s.time.count()) * 1e-6, s.file ? s.file : "never called");
+                    static_cast<double>(s.time.count()) * 1e-6,
+                    s.input.empty() ? "never called" : s.input.c_str());
     }
 }
