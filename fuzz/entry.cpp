@@ -117,7 +117,10 @@ const char *fault(const Entry &entry, const Outcome &outcome, const Frame &frame
 bool agree(const Outcome &p, const Outcome &q, const std::vector<unsigned char> &a,
            const std::vector<unsigned char> &b) {
     const auto same = [](double x, double y) {
-        return std::memcmp(&x, &y, sizeof x) == 0 || (std::isnan(x) && std::isnan(y));
+        std::uint64_t xBits, yBits;
+        std::memcpy(&xBits, &x, sizeof x);
+        std::memcpy(&yBits, &y, sizeof y);
+        return xBits == yBits || (std::isnan(x) && std::isnan(y));
     };
     if (p.code != q.code || !same(p.value[0], q.value[0]) || !same(p.value[1], q.value[1])) {
         return false;

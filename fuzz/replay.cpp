@@ -1,6 +1,6 @@
 // Executes without a fuzzer, and tells the longest call of each function. Arguments: files; --tell,
-// before which files every call is told before it is made; --random SECONDS SEED, for inputs that the
-// seed decides.
+// before which files every call is told before it is made; --random SECONDS SEED, for inputs that
+// the seed decides.
 
 #include <cstdlib>
 #include <fstream>

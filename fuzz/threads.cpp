@@ -11,7 +11,7 @@ namespace {
 
 using namespace fuzz;
 
-constexpr unsigned kThreads = 8;
+constexpr std::size_t kThreads = 8;
 
 /// The digest of one call; NaN is NaN whatever its sign.
 std::uint64_t digest(const Outcome &outcome, const std::vector<unsigned char> &image) {
@@ -77,7 +77,7 @@ int main(int argc, char **argv) {
     // At once first: alone would already have filled what a first call fills.
     std::vector<Answers> atOnce(kThreads);
     std::vector<std::thread> threads;
-    for (unsigned t = 0; t < kThreads; ++t) {
+    for (std::size_t t = 0; t < kThreads; ++t) {
         threads.emplace_back([&atOnce, rounds, t] { atOnce[t] = answers(rounds, t * 16); });
     }
     for (std::thread &thread : threads)
@@ -90,5 +90,5 @@ int main(int argc, char **argv) {
             }
         }
     }
-    std::printf("%zu answers in each of %u threads, as alone\n", alone.size(), kThreads);
+    std::printf("%zu answers in each of %zu threads, as alone\n", alone.size(), kThreads);
 }
