@@ -44,8 +44,8 @@ cp "$root/bin/planegeo.dll" .
 "$here/../exports.sh" "$here/../../src/exports.txt" "$root/include/planegeo.h" planegeo.dll \
     "${mingw}objdump"
 imports() { "${mingw}objdump" --private-headers "$1" | sed -n 's/^\s*DLL Name: //p'; }
-imports shared.exe | grep -qx planegeo.dll
-if imports static.exe | grep -q planegeo; then exit 1; fi
+imports shared.exe | grep -x planegeo.dll >/dev/null
+if imports static.exe | grep planegeo >/dev/null; then exit 1; fi
 run shared.exe "$version"
 run static.exe "$version"
 
@@ -57,5 +57,5 @@ esac
 llvm-dlltool -m $machine -d "$root/lib/planegeo.def" -l planegeo.lib
 clang --target=$target -ffreestanding -Wall -Werror -I"$root/include" -c "$here/plain_host.c" -o plain.obj
 lld-link /nodefaultlib /subsystem:console /entry:entry /out:plain.exe plain.obj planegeo.lib
-imports plain.exe | grep -qx planegeo.dll
+imports plain.exe | grep -x planegeo.dll >/dev/null
 run plain.exe
