@@ -14,7 +14,7 @@ quietly cmake --preset fuzz
 quietly cmake --build --preset fuzz --parallel "$(nproc)"
 mkdir -p "$directory/corpus" "$directory/findings"
 UBSAN_OPTIONS=print_stacktrace=1 build/fuzz/fuzz/planegeo_fuzz -max_total_time="$seconds" \
-    -max_len=256 -timeout=10 -artifact_prefix="$directory/findings/" -print_final_stats=1 \
+    -max_len=256 -timeout=100 -artifact_prefix="$directory/findings/" -print_final_stats=1 \
     "$directory/corpus" fuzz/corpus >"$directory/fuzz.log" 2>&1 ||
     { tail -n 60 "$directory/fuzz.log"; exit 1; }
 grep -E 'number_of_executed_units|average_exec_per_sec' "$directory/fuzz.log"

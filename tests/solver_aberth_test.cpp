@@ -114,7 +114,7 @@ TEST(DKA, carriesRootsThatRepeatToTheEndOfAnyBudget) {
 TEST(DKA, endsAnUnsettledRunAtItsLimitOfSweeps) {
     const struct {
         std::vector<double> c;
-        double limit; // sweeps, of which a budget makes one more
+        int limit; // sweeps, of which a budget makes one more
     } cases[] = {{polynomialOf(std::vector<Root>(19, 0.05)), 10'000'000 / (19 * 35)},
                  {polynomialOf(std::vector<Root>(130, 0.01)), 18'000'000 / (130 * 146)}};
     for (const auto &[c, limit] : cases) {
