@@ -175,6 +175,17 @@ TEST(Simpson, samplesTheLibrarysIntegrandsOverAFewTurnsOnly) {
     }
 }
 
+// Axes whose lengths are too long for the series to tell them to 1e-6.
+TEST(Simpson2, givesUpALongWalkOfFineRangesOnly) {
+    const HalfAxes axes(137.0, 450.0);
+    double lo = 0.0, hi = 36000.0;
+    EXPECT_EQ(ca_Simpson2(ca_lengelp, &lo, &hi, 1.0, 1), -1);
+    EXPECT_EQ(hi, 36000.0);
+    hi = 2000.0;
+    EXPECT_EQ(ca_Simpson2(ca_lengelp, &lo, &hi, 1.0, 1), 0);
+    EXPECT_NEAR(hi, 1.0 / 450.0 / kRadPerDeg, 1e-4);
+}
+
 struct SearchCase {
     const char *about;
     double lo, hi, wanted;

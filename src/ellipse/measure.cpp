@@ -29,6 +29,10 @@ constexpr std::int64_t kLongestPass = 1073741823;
 /// kFarthestStretchDeg.
 constexpr std::int64_t kMostSearchSamples = std::int64_t{1} << 28;
 constexpr double kFarthestStretchDeg = 36000.0;
+/// A search gives up, too, after so many sums around an ellipse (see GridSum) with so many samples
+/// in the plain steps: some hundredths of a second.
+constexpr std::int64_t kMostSummedSamples = std::int64_t{1} << 24;
+constexpr int kFewSums = 192;
 /// Whole turns are taken off a limit of the library's own integrands that lies farther.
 constexpr double kFarLimitDeg = 36000.0;
 constexpr double kFirstSearchStepDeg = 10.0;
@@ -88,7 +92,7 @@ class Measurer {
         }
     }
 
-    Measured operator()(double lo, double hi) const {
+    Measured operator()(double lo, double hi) {
         if (!sum_) return {lo, hi, sampled(integrand_, lo, hi)};
         const double span = hi - lo;
         if (!sum_->takes(span)) return {lo, hi, {Refinement::outOfIntervals}};
@@ -96,18 +100,30 @@ class Measurer {
             lo = std::fmod(lo, 360.0);
             hi = lo + span;
         }
-        const Integral summed = series_.integral(lo, hi, kLongestPass);
-        if (summed.outcome != Refinement::undecided) return {lo, hi, summed};
-        return {lo, hi, sum_->integral(lo, hi)};
+        const Integral bySeries = series_.integral(lo, hi, kLongestPass);
+        if (bySeries.outcome != Refinement::undecided) return {lo, hi, bySeries};
+        return {lo, hi, summed(lo, hi)};
     }
-    void makeCertain(Measured &m) const {
-        if (m.integral.uncertainty > 0.0) m.integral = sum_->integral(m.lo, m.hi);
+    bool hasSummedEnough() const {
+        return summedSamples_ >= kMostSummedSamples && sums_ >= kFewSums;
+    }
+    void makeCertain(Measured &m) {
+        if (m.integral.uncertainty > 0.0) m.integral = summed(m.lo, m.hi);
     }
 
   private:
+    Integral summed(double lo, double hi) {
+        const Integral found = sum_->integral(lo, hi);
+        summedSamples_ += found.samples;
+        ++sums_;
+        return found;
+    }
+
     PLANEGEO_INTEGRAND integrand_;
     CosineSeries series_;
     std::optional<GridSum> sum_;
+    std::int64_t summedSamples_ = 0;
+    int sums_ = 0;
 };
 
 /// What the search sees in the integral over its range and that over the range before.
@@ -129,8 +145,7 @@ struct Progress {
 
 /// Moves one limit until the integral is the wanted one, by steps that halve at each change of
 /// direction. The search begins as if after a shrink, so its very first stretch is half a step.
-FoundLimit searchLimit(const Measurer &measure, double lo, double hi, double wanted,
-                       bool movesLower) {
+FoundLimit searchLimit(Measurer measure, double lo, double hi, double wanted, bool movesLower) {
     double &moved = movesLower ? lo : hi;
     const double outwards = movesLower ? -1.0 : 1.0;
     double step = kFirstSearchStepDeg;
@@ -138,7 +153,7 @@ FoundLimit searchLimit(const Measurer &measure, double lo, double hi, double wan
     Measured before = {lo, hi, {Refinement::done}};
     int stalls = 0;
     std::int32_t code = 0;
-    for (std::int64_t samples = 0; samples < kMostSearchSamples;) {
+    for (std::int64_t samples = 0; samples < kMostSearchSamples && !measure.hasSummedEnough();) {
         Measured now = measure(lo, hi);
         Progress progress = Progress::of(now.integral, before.integral, wanted);
         if (progress.doubtful) {

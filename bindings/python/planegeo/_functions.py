@@ -2561,7 +2561,8 @@ def ca_Simpson2(
         code: 0 found; -2 found, but a range on the way did not settle; -1 given up: ten ranges
             in a row gave nothing or no change above 1e-6, the integral is not finite and the
             limit no longer changes, wanted is infinite, or 2^28 samples are spent (the range
-            has then grown by at most 80 turns); else the integrand's code
+            has then grown by at most 80 turns), or with the library's own integrands 2^24 in
+            192 ranges that its series does not decide; else the integrand's code
         lower, upper: degrees; only the moved one is written, and only when the value was found
     """
     _integrand = _convert.Callback(integrand, _PLANEGEO_INTEGRAND, _of_library)
