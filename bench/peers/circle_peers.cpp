@@ -187,23 +187,6 @@ const int kBox =
                 return occt::corners(box);
             });
 
-Answer contacts(const GccAna_Lin2d2Tan &lines, bool isBoth) {
-    Answer answer;
-    if (!lines.IsDone()) return answer;
-    for (int i = 1; i <= lines.NbSolutions(); ++i) {
-        double u, v;
-        gp_Pnt2d contact;
-        lines.Tangency1(i, u, v, contact);
-        answer.add(contact.X(), contact.Y());
-        if (!isBoth) continue;
-        lines.Tangency2(i, u, v, contact);
-        answer.add(contact.X(), contact.Y());
-    }
-    return answer;
-}
-
-constexpr double kTolerance = 1e-6;
-
 struct OcctCirclePoint {
     gp_Circ2d circle;
     gp_Pnt2d point;
@@ -224,8 +207,9 @@ const int kTangentsFromPoint =
                 return OcctCirclePoint{occt::circle(in.center, in.r), occt::point(in.point)};
             },
             [](const OcctCirclePoint &in) {
-                return contacts(
-                    GccAna_Lin2d2Tan(GccEnt::Unqualified(in.circle), in.point, kTolerance), false);
+                return occt::contacts(
+                    GccAna_Lin2d2Tan(GccEnt::Unqualified(in.circle), in.point, occt::kTolerance),
+                    false);
             });
 
 const int kCommonTangents =
@@ -245,9 +229,10 @@ const int kCommonTangents =
                                                 occt::circle(in.c2, 0.3 * in.r2)};
             },
             [](const std::array<gp_Circ2d, 2> &in) {
-                return contacts(GccAna_Lin2d2Tan(GccEnt::Unqualified(in[0]),
-                                                 GccEnt::Unqualified(in[1]), kTolerance),
-                                true);
+                return occt::contacts(GccAna_Lin2d2Tan(GccEnt::Unqualified(in[0]),
+                                                       GccEnt::Unqualified(in[1]),
+                                                       occt::kTolerance),
+                                      true);
             });
 
 } // namespace

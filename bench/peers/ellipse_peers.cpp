@@ -183,23 +183,6 @@ const int kNearest =
 
 Handle(Geom2d_Ellipse) curve(const gp_Elips2d &ellipse) { return new Geom2d_Ellipse(ellipse); }
 
-Answer contacts(const Geom2dGcc_Lin2d2Tan &lines, bool isBoth) {
-    Answer answer;
-    if (!lines.IsDone()) return answer;
-    for (int i = 1; i <= lines.NbSolutions(); ++i) {
-        double u, v;
-        gp_Pnt2d contact;
-        lines.Tangency1(i, u, v, contact);
-        answer.add(contact.X(), contact.Y());
-        if (!isBoth) continue;
-        lines.Tangency2(i, u, v, contact);
-        answer.add(contact.X(), contact.Y());
-    }
-    return answer;
-}
-
-constexpr double kTolerance = 1e-6;
-
 struct OcctPointCurve {
     gp_Pnt2d point;
     Geom2dAdaptor_Curve curve;
@@ -222,9 +205,9 @@ const int kTangents =
                                       Geom2dAdaptor_Curve(curve(occtPointEllipse(in).ellipse))};
             },
             [](const OcctPointCurve &in) {
-                return contacts(
-                    Geom2dGcc_Lin2d2Tan(Geom2dGcc::Unqualified(in.curve), in.point, kTolerance),
-                    false);
+                return occt::contacts(Geom2dGcc_Lin2d2Tan(Geom2dGcc::Unqualified(in.curve),
+                                                          in.point, occt::kTolerance),
+                                      false);
             });
 
 struct OcctCurves {
@@ -250,9 +233,10 @@ const int kCommonTangents =
                                   Geom2dAdaptor_Curve(curve(e.other))};
             },
             [](const OcctCurves &in) {
-                return contacts(Geom2dGcc_Lin2d2Tan(Geom2dGcc::Unqualified(in.one),
-                                                    Geom2dGcc::Unqualified(in.other), kTolerance),
-                                true);
+                return occt::contacts(Geom2dGcc_Lin2d2Tan(Geom2dGcc::Unqualified(in.one),
+                                                          Geom2dGcc::Unqualified(in.other),
+                                                          occt::kTolerance),
+                                      true);
             });
 
 // Extents.

@@ -67,6 +67,25 @@ inline Answer points(const IntAna2d_AnaIntersection &found) {
     return pointsWhere(found, [](const IntAna2d_IntPoint &) { return true; });
 }
 
+/// How near to tangent is tangent.
+inline constexpr double kTolerance = 1e-6;
+
+/// Where tangents touch the first of two elements, or both.
+template <class Tangents> Answer contacts(const Tangents &lines, bool isBoth) {
+    Answer answer;
+    if (!lines.IsDone()) return answer;
+    for (int i = 1; i <= lines.NbSolutions(); ++i) {
+        double u, v;
+        gp_Pnt2d contact;
+        lines.Tangency1(i, u, v, contact);
+        answer.add(contact.X(), contact.Y());
+        if (!isBoth) continue;
+        lines.Tangency2(i, u, v, contact);
+        answer.add(contact.X(), contact.Y());
+    }
+    return answer;
+}
+
 inline Answer corners(const Bnd_Box2d &box) {
     Answer answer;
     double left, bottom, right, top;
