@@ -57,7 +57,7 @@ void drawFeet(Album &album) {
         picture.returns(count);
     });
 
-    album.add(PICTURES_NAMED(a2d_PerEP), [](Picture &picture, auto &call) {
+    const auto drawCountedFeet = [](Picture &picture, auto &call) {
         const DTELLIPSE e = kArc.record();
         Feet feet{};
         uint32_t count = 0;
@@ -65,17 +65,9 @@ void drawFeet(Album &album) {
         drawArc(picture);
         drawFeet(picture, feet, count);
         picture.returns(result).figure("count", count);
-    });
-
-    album.add(PICTURES_NAMED(a2d_PerEP2), [](Picture &picture, auto &call) {
-        const DTELLIPSE e = kArc.record();
-        Feet feet{};
-        uint32_t count = 0;
-        const int32_t result = call(&kPoint, &e, feet.data(), &count);
-        drawArc(picture);
-        drawFeet(picture, feet, count);
-        picture.returns(result).figure("count", count);
-    });
+    };
+    album.add(PICTURES_NAMED(a2d_PerEP), drawCountedFeet);
+    album.add(PICTURES_NAMED(a2d_PerEP2), drawCountedFeet);
 
     album.add(PICTURES_NAMED(a2d_perle), [](Picture &picture, auto &call) {
         const Ellipse whole{{0, 0}, 90, 40, 0, {0, 360}};

@@ -39,27 +39,22 @@ void drawIntegral(Picture &picture, double lower, double upper) {
 void drawMeasure(Album &album) {
     const Ellipse whole{{50, 30}, 80, 40, 0, {0, 360}};
 
-    album.add(PICTURES_NAMED(ca_lengelp), [=](Picture &picture, auto &call) {
-        const Measured e(whole);
-        picture.graph(kTurn, {"value, drawing units per radian", 0, 60, 20});
-        picture.found().curve(0, 360, [&](double deg) {
-            double value = 0;
-            call(deg, &value);
-            return value;
-        });
-        picture.given().figure("slot 0", e.a / 2).figure("slot 1", e.b / 2);
-    });
-
-    album.add(PICTURES_NAMED(ca_AreaElp), [=](Picture &picture, auto &call) {
-        const Measured e(whole);
-        picture.graph(kTurn, {"value, drawing units squared per radian", 0, 1000, 250});
-        picture.found().curve(0, 360, [&](double deg) {
-            double value = 0;
-            call(deg, &value);
-            return value;
-        });
-        picture.given().figure("slot 0", e.a / 2).figure("slot 1", e.b / 2);
-    });
+    const auto integrand = [whole](const Scale &value) {
+        return [=](Picture &picture, auto &call) {
+            const Measured e(whole);
+            picture.graph(kTurn, value);
+            picture.found().curve(0, 360, [&](double deg) {
+                double found = 0;
+                call(deg, &found);
+                return found;
+            });
+            picture.given().figure("slot 0", e.a / 2).figure("slot 1", e.b / 2);
+        };
+    };
+    album.add(PICTURES_NAMED(ca_lengelp),
+              integrand({"value, drawing units per radian", 0, 60, 20}));
+    album.add(PICTURES_NAMED(ca_AreaElp),
+              integrand({"value, drawing units squared per radian", 0, 1000, 250}));
 
     album.add(PICTURES_NAMED(ca_Simpson), [=](Picture &picture, auto &call) {
         const Measured e(whole);
