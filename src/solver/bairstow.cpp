@@ -71,9 +71,32 @@ struct BestFactor {
     bool isUnset() const { return residual == kBairstowWorstResidual; }
 };
 
+/// Notices when the factors of a search come back to one that they had: from then on the search
+/// repeats itself. A later one is remembered ever again, so that it is found wherever it starts.
+class RepetitionFinder {
+  public:
+    explicit RepetitionFinder(Factor start) : remembered_(start) {}
+
+    /// To be asked after each step, with the number of steps made. The sign of a zero is no
+    /// difference: no factor is divided by.
+    bool isBack(Factor factor, int steps) {
+        if (factor.v == remembered_.v && factor.u == remembered_.u) return true;
+        if (steps == next_) {
+            remembered_ = factor;
+            next_ += 4 + next_ / 4;
+        }
+        return false;
+    }
+
+  private:
+    Factor remembered_;
+    int next_ = 4;
+};
+
 Factor findFactor(const double *b, int degree, double largest, BestFactor &best) {
     Factor factor = {1.0, 1.0};
-    for (int i = 0; i < kMaxIterations; ++i) {
+    RepetitionFinder finder(factor);
+    for (int steps = 1; steps <= kMaxIterations; ++steps) {
         const DoubleDivision rest = divideTwice(b, degree, factor);
         factor = improved(factor, rest);
         // The rest belongs to the factor before this step, the coefficient v to the one after.
@@ -82,6 +105,8 @@ Factor findFactor(const double *b, int degree, double largest, BestFactor &best)
         if (residual <= kBairstowExactResidual) return factor;
         if (residual == best.residual) return best.factor;
         if (residual < best.residual) best = {residual, factor};
+        // What comes again is no better than it was.
+        if (finder.isBack(factor, steps)) break;
     }
     return best.factor;
 }
