@@ -11,16 +11,6 @@ namespace {
 
 constexpr DTPOINT kCenter = {10, 20};
 
-struct Ellipse {
-    DTPOINT center;
-    double a, b, rot;
-
-    DTPOINT at(double t) const {
-        const double x = a / 2 * cosd(t), y = b / 2 * sind(t);
-        return {center.x + x * cosd(rot) - y * sind(rot), center.y + x * sind(rot) + y * cosd(rot)};
-    }
-};
-
 struct Chain {
     int32_t code;
     std::vector<DTPOINT> centers;

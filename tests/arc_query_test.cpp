@@ -8,7 +8,7 @@ namespace {
 
 constexpr DTPOINT kCenter = {3, -2};
 
-DTPOINT shifted(DTPOINT p) { return {p.x + kCenter.x, p.y + kCenter.y}; }
+DTPOINT shifted(DTPOINT p) { return kCenter + p; }
 
 } // namespace
 

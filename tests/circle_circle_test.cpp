@@ -10,7 +10,7 @@ namespace {
 
 constexpr DTPOINT kOrigin = {-4, 3}; // where the tables have their (0, 0)
 
-DTPOINT shifted(DTPOINT p) { return {p.x + kOrigin.x, p.y + kOrigin.y}; }
+DTPOINT shifted(DTPOINT p) { return kOrigin + p; }
 
 struct Arc {
     DTPOINT center;

@@ -1,5 +1,6 @@
 // Where tangents touch circles.
 
+#include <algorithm>
 #include <vector>
 
 #include "support.h"
@@ -10,7 +11,7 @@ namespace {
 
 constexpr DTPOINT kOrigin = {-4, 3};
 
-DTPOINT shifted(DTPOINT p) { return {p.x + kOrigin.x, p.y + kOrigin.y}; }
+DTPOINT shifted(DTPOINT p) { return kOrigin + p; }
 
 struct Tangents {
     int32_t status;
@@ -20,8 +21,7 @@ struct Tangents {
 
 Tangents commonTangents(DTPOINT c1, double r1, DTPOINT c2, double r2) {
     Tangents got;
-    for (DTPOINT &t : got.t)
-        t = kUntouchedPoint;
+    std::fill_n(got.t, 8, kUntouchedPoint);
     got.status = ca_cctan(&c1, r1, &c2, r2, got.t, got.t + 1, got.t + 2, got.t + 3, got.t + 4,
                           got.t + 5, got.t + 6, got.t + 7, &got.count);
     return got;

@@ -42,18 +42,6 @@ Answer cross(const DTELLIPSE &e, const DTELLIPSE &f) {
     return got;
 }
 
-DTPOINT at(const DTELLIPSE &e, double deg) {
-    const double x = e.a / 2 * std::cos(deg * kRadPerDeg), y = e.b / 2 * std::sin(deg * kRadPerDeg);
-    const double c = std::cos(e.rot * kRadPerDeg), s = std::sin(e.rot * kRadPerDeg);
-    return {e.cx + c * x - s * y, e.cy + s * x + c * y};
-}
-double offEllipse(const DTELLIPSE &e, DTPOINT p) {
-    const double c = std::cos(e.rot * kRadPerDeg), s = std::sin(e.rot * kRadPerDeg);
-    const double u = (c * (p.x - e.cx) + s * (p.y - e.cy)) / (e.a / 2),
-                 v = (c * (p.y - e.cy) - s * (p.x - e.cx)) / (e.b / 2);
-    return std::fabs(u * u + v * v - 1.0) / (2.0 * std::hypot(u / (e.a / 2), v / (e.b / 2)));
-}
-
 TEST(CircularWithEllipticArc, KeepsPointsOnBothArcs) {
     // In the ellipse's frame the points lie in the directions t, 180 - t, -t and 180 + t.
     const double t = std::asin(std::sqrt(0.625) / 2) / kRadPerDeg; // 23.28
@@ -136,8 +124,8 @@ TEST(TwoEllipticArcs, CommonPointsComeBack) {
         const double within = 3 * size * 2 * 10 * kEpsilon;
         double nearest = 1e300;
         for (std::size_t k = 0; k < static_cast<std::size_t>(got.count); ++k) {
-            EXPECT_LE(offEllipse(e, got.at[k]), within);
-            EXPECT_LE(offEllipse(f, got.at[k]), within);
+            EXPECT_LE(offCurve(e, got.at[k]), within);
+            EXPECT_LE(offCurve(f, got.at[k]), within);
             nearest = std::fmin(nearest, distance(got.at[k], p));
         }
         EXPECT_LE(nearest, within / std::fabs(slant));

@@ -7,14 +7,6 @@ using namespace support;
 
 namespace {
 
-/// From the ellipse's own frame into the plane.
-DTPOINT placed(const DTELLIPSE &e, DTPOINT local) {
-    const DTPOINT center = {e.cx, e.cy};
-    DTPOINT out;
-    pnt_formd(&local, &center, e.rot, &out);
-    return out;
-}
-
 struct Answer {
     double distance;
     DTPOINT out = kUntouchedPoint;
@@ -114,11 +106,7 @@ TEST(SampledDistance, knownSamplesAndOddRanges) {
         double wantDeg;
     } const cases[] = {
         {"far along the first axis", 0, 360, {9, 0}, 0},
-        {"tenths, not hundredths",
-         10,
-         360,
-         {5 * std::cos(50.53 * kRadPerDeg), 7 * std::sin(50.53 * kRadPerDeg)},
-         50.5},
+        {"tenths, not hundredths", 10, 360, {5 * cosd(50.53), 7 * sind(50.53)}, 50.5},
         {"on the curve, off the arc", 10, 90, {2, 0}, 10},
         {"of equal ones the first", 90, 270, {0, 0}, 90},
         {"the end is reached by whole steps only", 0, 45.05, {-3, 9}, 45},
@@ -170,13 +158,7 @@ TEST(NearestPoint, knownAnswers) {
         {"off the arc: its end", 4, 2, 90, 270, {3, -1}, {0, -1}},
         {"across 0", 4, 2, -90, 90, {5, 0}, {2, 0}},
         {"the arc without the nearest point: the other minimum", 4, 2, 190, 350, {0, 0.2}, {0, -1}},
-        {"there, but with an end nearer",
-         4,
-         2,
-         190,
-         350,
-         {-1.9, 0.1},
-         {2 * -0.984807753012208, -0.17364817766693036}},
+        {"there, but with an end nearer", 4, 2, 190, 350, {-1.9, 0.1}, {2 * cosd(190), sind(190)}},
         {"the segment's inside", 4, 0, 0, 360, {1, 1}, {1, 0}},
         {"the segment's end", 4, 0, 0, 360, {-3, 1}, {-2, 0}},
         {"its lower arc alone", 4, 0, 180, 360, {1, 1}, {1, 0}},

@@ -11,16 +11,6 @@ namespace {
 /// Half axes 5 and 3 (c^2 = 16), turned and off the origin.
 constexpr DTELLIPSE kEllipse = {0, 7, -3, 10, 6, 0, 360, 30};
 
-DTPOINT placed(const DTELLIPSE &e, DTPOINT local) {
-    const DTPOINT center = {e.cx, e.cy};
-    DTPOINT out;
-    pnt_formd(&local, &center, e.rot, &out);
-    return out;
-}
-DTPOINT at(const DTELLIPSE &e, double deg) {
-    return placed(e, {e.a / 2 * cosd(deg), e.b / 2 * sind(deg)});
-}
-
 struct Answer {
     int32_t result;
     DTPOINT out[4] = {kUntouchedPoint, kUntouchedPoint, kUntouchedPoint, kUntouchedPoint};
@@ -52,13 +42,6 @@ double offNormal(const DTELLIPSE &e, DTPOINT foot, DTPOINT p) {
     pnt_std(&p, &center, -e.rot, &q);
     const double nx = f.x / (e.a * e.a), ny = f.y / (e.b * e.b);
     return std::fabs((q.x - f.x) * ny - (q.y - f.y) * nx) / std::hypot(nx, ny);
-}
-double offCurve(const DTELLIPSE &e, DTPOINT foot) {
-    const DTPOINT center = {e.cx, e.cy};
-    DTPOINT f;
-    pnt_std(&foot, &center, -e.rot, &f);
-    const double nx = 2 * f.x / (e.a * e.a), ny = 2 * f.y / (e.b * e.b);
-    return std::fabs(f.x * nx + f.y * ny - 0.5) / (2 * std::hypot(nx, ny));
 }
 
 void expectPoints(const Answer &got, const std::vector<DTPOINT> &want, DTPOINT rest) {

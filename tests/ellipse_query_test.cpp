@@ -8,12 +8,9 @@ namespace {
 
 constexpr DTPOINT kCenter = {10, 20};
 
-DTPOINT fromCenter(DTPOINT p) { return {kCenter.x + p.x, kCenter.y + p.y}; }
+DTPOINT fromCenter(DTPOINT p) { return kCenter + p; }
 /// A local point of an ellipse about kCenter turned by `rot`.
-DTPOINT turned(DTPOINT local, double rot) {
-    return fromCenter(
-        {local.x * cosd(rot) - local.y * sind(rot), local.x * sind(rot) + local.y * cosd(rot)});
-}
+DTPOINT turned(DTPOINT local, double rot) { return Ellipse{kCenter, 0, 0, rot}.placed(local); }
 DTPOINT localAt(double a, double b, double t) { return {a / 2 * cosd(t), b / 2 * sind(t)}; }
 
 } // namespace
@@ -111,12 +108,9 @@ TEST(LineAgainstEllipse, comparesLengthsAlongTheAxesAndSquaresElsewhere) {
         {"along the second axis, 0.5e-4 outside", {-2.00005, 0}, {-2.00005, 1}, 1},
         {"along the second axis, 2e-4 outside", {2.0002, 0}, {2.0002, 1}, 0},
         // y = x + c: D = 4 - c^2 + 1
-        {"slanted, discriminant 0.5e-4",
-         {0, std::sqrt(5 - 0.5e-4)},
-         {1, 1 + std::sqrt(5 - 0.5e-4)},
-         1},
-        {"slanted, discriminant 2e-4", {0, std::sqrt(5 - 2e-4)}, {1, 1 + std::sqrt(5 - 2e-4)}, 2},
-        {"slanted, discriminant -2e-4", {0, std::sqrt(5 + 2e-4)}, {1, 1 + std::sqrt(5 + 2e-4)}, 0},
+        {"slanted, D = 0.5e-4", {0, std::sqrt(5 - 0.5e-4)}, {1, 1 + std::sqrt(5 - 0.5e-4)}, 1},
+        {"slanted, D = 2e-4", {0, std::sqrt(5 - 2e-4)}, {1, 1 + std::sqrt(5 - 2e-4)}, 2},
+        {"slanted, D = -2e-4", {0, std::sqrt(5 + 2e-4)}, {1, 1 + std::sqrt(5 + 2e-4)}, 0},
         {"both points inside: the line is infinite", {0.1, 0.1}, {0.2, 0.3}, 2},
     };
     for (const auto &c : cases) {

@@ -6,22 +6,11 @@ using namespace support;
 
 namespace {
 
-struct Ellipse {
-    DTPOINT center;
-    double a, b, rot;
-
-    DTPOINT placed(DTPOINT local) const {
-        DTPOINT out;
-        pnt_formd(&local, &center, rot, &out);
-        return out;
-    }
-    DTPOINT at(double deg) const { return placed({a / 2 * cosd(deg), b / 2 * sind(deg)}); }
-    /// Where the tangents at two parameters meet.
-    DTPOINT pole(double deg1, double deg2) const {
-        const double middle = (deg1 + deg2) / 2, r = 1 / cosd((deg2 - deg1) / 2);
-        return placed({a / 2 * r * cosd(middle), b / 2 * r * sind(middle)});
-    }
-};
+/// Where the tangents at two parameters meet.
+DTPOINT poleOf(const Ellipse &e, double deg1, double deg2) {
+    const double middle = (deg1 + deg2) / 2, r = 1 / cosd((deg2 - deg1) / 2);
+    return e.placed({e.a / 2 * r * cosd(middle), e.b / 2 * r * sind(middle)});
+}
 
 using Function = int32_t (*)(const DTPOINT *, const DTPOINT *, double, double, double, DTPOINT *,
                              DTPOINT *);
@@ -57,7 +46,7 @@ TEST(PointTangentsOfEllipse, knownContactsAndTheirOrder) {
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.about);
-        const DTPOINT p = e.pole(c.deg1, c.deg2);
+        const DTPOINT p = poleOf(e, c.deg1, c.deg2);
         const double within = 200 * kEpsilon * (1 + distance(p, e.center));
         const Answer focal = ask(a2d_tchpe, e, p), polar = ask(ca_inspe, e, p);
         EXPECT_EQ(focal.result, 2);
@@ -108,10 +97,10 @@ TEST(PointTangentsOfEllipse, codesAndOutputsWithoutContacts) {
 
 TEST(PointTangentsOfEllipse, alongAnAxisTheContactIsTheOthersEnd) {
     const Ellipse e = {{7, -3}, 10, 6, 30};
-    EXPECT_TRUE(near(ask(a2d_tchpe, e, e.pole(90 + 1e-8, 170)).out1, e.at(90), 50 * kEpsilon));
-    EXPECT_TRUE(near(ask(a2d_tchpe, e, e.pole(-90 - 1e-8, 170)).out2, e.at(-90), 50 * kEpsilon));
-    EXPECT_TRUE(near(ask(a2d_tchpe, e, e.pole(-80, 1e-8)).out2, e.at(0), 50 * kEpsilon));
-    EXPECT_TRUE(near(ask(a2d_tchpe, e, e.pole(100, 180 + 1e-8)).out2, e.at(180), 50 * kEpsilon));
+    EXPECT_TRUE(near(ask(a2d_tchpe, e, poleOf(e, 90 + 1e-8, 170)).out1, e.at(90), 50 * kEpsilon));
+    EXPECT_TRUE(near(ask(a2d_tchpe, e, poleOf(e, -90 - 1e-8, 170)).out2, e.at(-90), 50 * kEpsilon));
+    EXPECT_TRUE(near(ask(a2d_tchpe, e, poleOf(e, -80, 1e-8)).out2, e.at(0), 50 * kEpsilon));
+    EXPECT_TRUE(near(ask(a2d_tchpe, e, poleOf(e, 100, 180 + 1e-8)).out2, e.at(180), 50 * kEpsilon));
 }
 
 /// Squares against 1e-8: beside the first axis y^2 of the contacts, elsewhere a discriminant of
@@ -135,7 +124,7 @@ TEST(PointTangentsOfEllipse, theFirstOfTwoMirroredContacts) {
         {0.034, -0.034}, {0.048, 0.048}, {179.966, 179.966}, {180.034, 179.966}};
     for (const auto &[deg, want] : cases) {
         const double other = deg < 90 ? 80 : 100;
-        const Answer got = ask(a2d_tchpe, e, e.pole(deg, other));
+        const Answer got = ask(a2d_tchpe, e, poleOf(e, deg, other));
         const bool isFirst = distance(got.out1, e.at(other)) > 0.5;
         EXPECT_TRUE(near(isFirst ? got.out1 : got.out2, e.at(want), 1e-12)) << deg;
     }
@@ -153,8 +142,8 @@ TEST(PointTangentsOfEllipse, noneIsLost) {
         // Contacts beside the first axis may be mirrored, and a point at its distance may find one
         // tangent twice.
         if (std::fmin(std::fabs(sind(deg1)), std::fabs(sind(deg2))) < 0.01) continue;
-        if (std::fabs(distance(e.pole(deg1, deg2), e.center) - e.a / 2) < 2e-6) continue;
-        const DTPOINT p = e.pole(deg1, deg2), want1 = e.at(deg1), want2 = e.at(deg2);
+        if (std::fabs(distance(poleOf(e, deg1, deg2), e.center) - e.a / 2) < 2e-6) continue;
+        const DTPOINT p = poleOf(e, deg1, deg2), want1 = e.at(deg1), want2 = e.at(deg2);
         // Contacts of a point near the curve turn by the root of a rounding.
         const double flat = 1 / sind((deg2 - deg1) / 2), far = 1 / cosd((deg2 - deg1) / 2);
         const double within =

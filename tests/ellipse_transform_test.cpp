@@ -11,10 +11,7 @@ struct Loose {
     double a, b, rot;
     double angles[2];
 
-    DTPOINT at(double t) const {
-        const double x = a / 2 * cosd(t), y = b / 2 * sind(t);
-        return {center.x + x * cosd(rot) - y * sind(rot), center.y + x * sind(rot) + y * cosd(rot)};
-    }
+    DTPOINT at(double t) const { return Ellipse{center, a, b, rot}.at(t); }
 };
 
 // In place: the transforms read everything before they write.

@@ -10,7 +10,7 @@ namespace {
 
 constexpr DTPOINT kCenter = {3, -2}; // off the origin, so that a forgotten shift shows
 
-DTPOINT shifted(DTPOINT p) { return {p.x + kCenter.x, p.y + kCenter.y}; }
+DTPOINT shifted(DTPOINT p) { return kCenter + p; }
 
 struct Answer {
     int32_t status;

@@ -8,7 +8,7 @@ namespace {
 
 constexpr DTPOINT kA = {10, 20}, kB = {14, 20}; // four units eastwards
 
-DTPOINT fromA(DTPOINT p) { return {kA.x + p.x, kA.y + p.y}; }
+DTPOINT fromA(DTPOINT p) { return kA + p; }
 
 } // namespace
 
@@ -25,11 +25,7 @@ TEST(OnLine, asksTheEndsFirstThenLengthDistanceAndExtent) {
         {"2e-6 before the start", {0, 0}, {4, 0}, {-2e-6, 0}, 1},
         {"0.5e-6 beside", {0, 0}, {4, 0}, {2, 0.5e-6}, 0},
         {"2e-6 beside", {0, 0}, {4, 0}, {2, -2e-6}, 1},
-        {"within both components of an end, not within the distance",
-         {0, 0},
-         {4, 0},
-         {4 + 0.8e-6, 0.8e-6},
-         1},
+        {"beside an end, both ways", {0, 0}, {4, 0}, {4 + 0.8e-6, 0.8e-6}, 1},
         {"no length, elsewhere", {1, 1}, {1, 1}, {2, 1}, -1},
         {"no length, at the end", {1, 1}, {1, 1}, {1, 1}, 0},
         {"shorter than the tolerance", {1, 1}, {1 + 0.5e-6, 1}, {3, 1}, -1},
@@ -186,11 +182,7 @@ TEST(KeptEndOfLine, isTheStartOnlyForTheFlagOne) {
         {"the end by default", 0, {0, 1, 0, 3, 0}, 1, {3, 0}},
         {"the start for 1", 1, {0, 1, 0, 3, 0}, 1, {1, 0}},
         {"2 is not 1", 2, {0, 1, 0, 3, 0}, 1, {3, 0}},
-        {"the chosen end lies beyond; the other is not tried",
-         0,
-         {0, 1, 0, 9, 0},
-         0,
-         kUntouchedPoint},
+        {"the chosen end lies beyond; no other", 0, {0, 1, 0, 9, 0}, 0, kUntouchedPoint},
         {"the chosen start lies before", 1, {0, -1, 0, 3, 0}, 0, kUntouchedPoint},
         {"the attribute word is not read", 0, {PLANEGEO_ATTR_REVERSED, 1, 0, 3, 0}, 1, {3, 0}},
         {"0.5e-6 off the line", 0, {0, 1, 0.5e-6, 3, 0}, 1, {3, 0}},
@@ -225,11 +217,7 @@ TEST(ProjectionAgainstSegment, setsABitPerEnd) {
         {"0.5e-6 before the start is half its own distance away", {0, 0}, {4, 0}, {-0.5e-6, 0}, 2},
         {"beside the start, far", {0, 0}, {4, 0}, {0.5e-6, 7}, 3},
         {"beside the start, behind it", {0, 0}, {4, 0}, {-0.5e-6, 7}, 2},
-        {"beside the end, past it: only an end that is not passed forgives",
-         {0, 0},
-         {4, 0},
-         {4 + 0.5e-6, 7},
-         1},
+        {"past the end: one that is passed forgives nothing", {0, 0}, {4, 0}, {4 + 0.5e-6, 7}, 1},
         {"past both ends of a short one, in reach", {0, 0}, {1e-7, 0}, {0.5e-6, 7}, 3},
         {"before both", {0, 0}, {1e-7, 0}, {-0.5e-6, 7}, 3},
         {"no length", {1, 1}, {1, 1}, {3, 3}, 3},

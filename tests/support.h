@@ -12,6 +12,7 @@
 #include "planegeo.h"
 
 inline bool operator==(const DTPOINT &p, const DTPOINT &q) { return p.x == q.x && p.y == q.y; }
+inline DTPOINT operator+(const DTPOINT &p, const DTPOINT &q) { return {p.x + q.x, p.y + q.y}; }
 inline std::ostream &operator<<(std::ostream &out, const DTPOINT &p) {
     return out << "(" << p.x << ", " << p.y << ")";
 }
@@ -32,6 +33,33 @@ inline constexpr std::uint16_t kUntouchedCount = 4711;
 inline double distance(DTPOINT p, DTPOINT q) { return std::hypot(p.x - q.x, p.y - q.y); }
 inline DTPOINT polar(DTPOINT center, double r, double deg) {
     return {center.x + r * std::cos(deg * kRadPerDeg), center.y + r * std::sin(deg * kRadPerDeg)};
+}
+
+/// An ellipse by its definition; its own frame is that of its axes.
+struct Ellipse {
+    DTPOINT center;
+    double a, b, rot;
+
+    DTPOINT placed(DTPOINT local) const {
+        const double c = std::cos(rot * kRadPerDeg), s = std::sin(rot * kRadPerDeg);
+        return center + DTPOINT{local.x * c - local.y * s, local.x * s + local.y * c};
+    }
+    DTPOINT at(double deg) const {
+        return placed({a / 2 * std::cos(deg * kRadPerDeg), b / 2 * std::sin(deg * kRadPerDeg)});
+    }
+};
+inline DTPOINT placed(const DTELLIPSE &e, DTPOINT local) {
+    return Ellipse{{e.cx, e.cy}, e.a, e.b, e.rot}.placed(local);
+}
+inline DTPOINT at(const DTELLIPSE &e, double deg) {
+    return Ellipse{{e.cx, e.cy}, e.a, e.b, e.rot}.at(deg);
+}
+/// Distance from the curve, to first order.
+inline double offCurve(const DTELLIPSE &e, DTPOINT p) {
+    const double c = std::cos(e.rot * kRadPerDeg), s = std::sin(e.rot * kRadPerDeg);
+    const double x = p.x - e.cx, y = p.y - e.cy, halfA = e.a / 2, halfB = e.b / 2;
+    const double u = (c * x + s * y) / halfA, v = (c * y - s * x) / halfB;
+    return std::fabs(u * u + v * v - 1.0) / (2.0 * std::hypot(u / halfA, v / halfB));
 }
 
 /// Both coordinates within a distance.

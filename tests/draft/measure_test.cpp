@@ -8,15 +8,13 @@ namespace {
 
 using nlohmann::json;
 using program::dxf;
+using program::isAt;
 using program::Scratch;
 
 constexpr double kPi = 3.141592653589793;
 
 json measured(const Scratch &scratch, const std::string &entities, const std::string &blocks = "") {
-    const auto outcome =
-        scratch.draft("measure --json " + scratch.write("a.dxf", dxf(entities, blocks)));
-    EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
-    return outcome.json();
+    return scratch.told("measure " + scratch.write("a.dxf", dxf(entities, blocks)));
 }
 
 void expectExtents(const json &extents, double minX, double minY, double maxX, double maxY) {
@@ -85,9 +83,7 @@ TEST(Divide, PiecesAreEqual) {
         scratch.write("a.dxf", dxf("0 LINE|10 1|20 0|11 7|21 0|0 ARC|10 0|20 0|40 2|50 270|51 90"
                                    "|0 CIRCLE|10 0|20 0|40 1"
                                    "|0 ELLIPSE|10 0|20 0|11 4|21 0|40 0.5|41 0|42 6.2831853"));
-    const auto outcome = scratch.draft("divide -n 4 --json " + file);
-    ASSERT_EQ(outcome.exitCode, 0) << outcome.err;
-    const json each = outcome.json()["divisions"];
+    const json each = scratch.told("divide -n 4 " + file)["divisions"];
     const std::vector<std::vector<std::array<double, 2>>> want = {
         {{2.5, 0}, {4, 0}, {5.5, 0}},
         {{std::sqrt(2.0), -std::sqrt(2.0)}, {2, 0}, {std::sqrt(2.0), std::sqrt(2.0)}},
@@ -97,17 +93,15 @@ TEST(Divide, PiecesAreEqual) {
         // An ellipse is divided to 0.001 degrees of its parameter.
         const double within = i == 3 ? 4.0 * 0.001 * kPi / 180.0 : 1e-12;
         ASSERT_EQ(each[i]["points"].size(), want[i].size());
-        for (std::size_t k = 0; k < want[i].size(); ++k) {
-            EXPECT_NEAR(each[i]["points"][k]["x"].get<double>(), want[i][k][0], within) << i;
-            EXPECT_NEAR(each[i]["points"][k]["y"].get<double>(), want[i][k][1], within) << i;
-        }
+        for (std::size_t k = 0; k < want[i].size(); ++k)
+            EXPECT_TRUE(isAt(each[i]["points"][k], want[i][k][0], want[i][k][1], within)) << i;
     }
     EXPECT_DOUBLE_EQ(each[0]["piece_length"], 1.5);
     EXPECT_EQ(scratch.draft("divide -n 0 " + file).exitCode, 2);
     const auto missing = scratch.draft("divide -n 2 -e 5 " + file);
     EXPECT_EQ(missing.exitCode, 1);
     EXPECT_NE(missing.err.find("no entity #5"), std::string::npos) << missing.err;
-    EXPECT_EQ(scratch.draft("divide -n 2 -e 3,1 --json " + file).json()["divisions"].size(), 2U);
+    EXPECT_EQ(scratch.told("divide -n 2 -e 3,1 " + file)["divisions"].size(), 2U);
 }
 
 } // namespace

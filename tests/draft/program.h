@@ -1,12 +1,14 @@
 // Runs the drafting program and looks at what it leaves.
 #pragma once
 
+#include <cmath>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <string>
 
+#include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 #include <sys/wait.h>
 
@@ -60,10 +62,20 @@ class Scratch {
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, contentOf(streams + "/out"),
                 contentOf(streams + "/err")};
     }
+    /// What it tells as JSON; it has to succeed.
+    nlohmann::json told(const std::string &arguments) const {
+        const Outcome outcome = draft(arguments + " --json");
+        EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
+        return outcome.json();
+    }
 
   private:
     fs::path path_;
 };
+
+inline bool isAt(const nlohmann::json &point, double x, double y, double within = 1e-12) {
+    return std::hypot(point["x"].get<double>() - x, point["y"].get<double>() - y) < within;
+}
 
 /// A drawing from the groups of its entities, "code value" lines separated by '|'.
 inline std::string dxf(const std::string &entities, const std::string &blocks = "") {

@@ -11,6 +11,7 @@ namespace {
 
 using nlohmann::json;
 using program::dxf;
+using program::isAt;
 using program::Scratch;
 
 constexpr double kPi = 3.141592653589793;
@@ -20,19 +21,16 @@ const char *const kDrawing = "0 LINE|10 0|20 0|11 20|21 0|0 CIRCLE|10 10|20 0|40
                              "|0 ELLIPSE|10 40|20 0|11 5|21 0|40 0.6|41 0|42 3.141592653589793";
 
 json candidates(const Scratch &scratch, const std::string &options) {
-    const std::string file = scratch.write("a.dxf", dxf(kDrawing));
-    const auto outcome = scratch.draft("snap --json " + file + options);
-    EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
-    return outcome.json()["candidates"];
+    return scratch.told("snap " + scratch.write("a.dxf", dxf(kDrawing)) + options)["candidates"];
 }
 
-std::size_t countOf(const json &list, const char *kind, double x, double y, int entity) {
-    return static_cast<std::size_t>(
-        std::count_if(list.begin(), list.end(), [&](const json &candidate) {
-            return candidate["kind"] == kind && candidate["entity"]["number"] == entity &&
-                   std::hypot(candidate["x"].get<double>() - x, candidate["y"].get<double>() - y) <
-                       1e-9;
-        }));
+std::size_t countOf(const json &list, const char *kind, double x, double y, int entity,
+                    double within = 1e-9) {
+    const auto isWanted = [&](const json &candidate) {
+        return candidate["kind"] == kind && candidate["entity"]["number"] == entity &&
+               isAt(candidate, x, y, within);
+    };
+    return static_cast<std::size_t>(std::count_if(list.begin(), list.end(), isWanted));
 }
 
 TEST(Snap, OffersWhatIsNear) {
@@ -88,14 +86,8 @@ TEST(Snap, KnowsTheEndsAndTheMiddleOfAnEllipticArc) {
     EXPECT_EQ(countOf(near, "centre", 40, 0, 3), 1U);
     EXPECT_EQ(countOf(near, "quadrant", 40, 3, 3), 1U);
     EXPECT_EQ(countOf(near, "quadrant", 40, -3, 3), 0U);
-    EXPECT_EQ(std::count_if(near.begin(), near.end(),
-                            [](const json &candidate) {
-                                // Divided to 0.001 degrees of the parameter.
-                                return candidate["kind"] == "middle" &&
-                                       std::fabs(candidate["x"].get<double>() - 40.0) <
-                                           5.0 * 0.001 * kPi / 180.0;
-                            }),
-              1);
+    // Divided to 0.001 degrees of the parameter.
+    EXPECT_EQ(countOf(near, "middle", 40, 3, 3, 5.0 * 0.001 * kPi / 180.0), 1U);
 }
 
 TEST(Arcs, StandInForEveryEllipse) {
@@ -106,8 +98,7 @@ TEST(Arcs, StandInForEveryEllipse) {
     const std::string out = scratch.file("arcs.dxf");
     const auto outcome = scratch.draft("arcs " + file + " --tol 0.001 -o " + out);
     ASSERT_EQ(outcome.exitCode, 0) << outcome.err;
-    const json before = scratch.draft("measure --json " + file).json();
-    const json after = scratch.draft("measure --json " + out).json();
+    const json before = scratch.told("measure " + file), after = scratch.told("measure " + out);
     std::size_t onPipes = 0;
     double length = 0.0;
     for (const json &entity : after["measures"]) {
@@ -125,7 +116,7 @@ TEST(Arcs, StandInForEveryEllipse) {
     }
     // Each arc of the closed chain is joined to the next one.
     std::size_t joints = 0;
-    const json crossings = scratch.draft("intersect --json " + out).json()["crossings"];
+    const json crossings = scratch.told("intersect " + out)["crossings"];
     for (const json &point : crossings)
         if (point["kind"] == "joint" && point["first"]["layer"] == "pipes") ++joints;
     EXPECT_EQ(joints, onPipes);
