@@ -75,32 +75,15 @@ void expectTangentJoints(const Chain &chain, bool isClosed, double size) {
     }
 }
 
-/// Distance of a point from an ellipse: its nearest point is (a^2 x / (t + a^2), b^2 y / (t + b^2))
-/// with the one t above -b^2 that puts it on the curve, where a is the longer half axis.
-double distanceFrom(const Ellipse &e, DTPOINT p) {
-    const double dx = p.x - e.center.x, dy = p.y - e.center.y;
-    double x = std::fabs(dx * cosd(e.rot) + dy * sind(e.rot)), a = e.a / 2;
-    double y = std::fabs(dy * cosd(e.rot) - dx * sind(e.rot)), b = e.b / 2;
-    if (a < b) {
-        std::swap(a, b);
-        std::swap(x, y);
-    }
-    double low = b * y - b * b, high = std::hypot(a * x, b * y) - b * b, u = 0.0, v = 0.0;
-    for (int i = 0; i < 100; ++i) {
-        const double t = 0.5 * (low + high);
-        u = a * x / (t + a * a);
-        v = b * y / (t + b * b);
-        (u * u + v * v > 1.0 ? low : high) = t;
-    }
-    return std::hypot(a * u - x, b * v - y);
-}
-
 double furthest(const Chain &chain, const Ellipse &e) {
+    const ToleranceGuard exactly(0.0);
+    const double whole[] = {0, 360};
     double most = 0.0;
     for (std::size_t k = 0; k < chain.size(); ++k) {
         for (int i = 0; i <= 40; ++i) {
             const double deg = chain.start(k) + (chain.end(k) - chain.start(k)) * i / 40;
-            most = std::max(most, distanceFrom(e, chain.at(k, deg)));
+            const DTPOINT p = chain.at(k, deg);
+            most = std::max(most, a2d_dstpe(&e.center, e.a, e.b, e.rot, whole, &p));
         }
     }
     return most;

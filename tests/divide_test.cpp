@@ -11,22 +11,12 @@ using namespace support;
 
 constexpr DTPOINT kCenter = {12.0, -7.0};
 
-struct Answer {
-    int32_t code;
-    DTPOINT point = kUntouchedPoint;
-    double piece = kUntouched;
-};
+using Answer = plain::Division;
 Answer kept(const plain::Arc &arc, int32_t n, int32_t k) {
-    const double angles[2] = {arc.start, arc.end};
-    Answer got = {};
-    got.code = a2d_elpdn(&arc.center, arc.a, arc.b, arc.rot, angles, n, k, &got.point, &got.piece);
-    return got;
+    return plain::ask(a2d_elpdn, arc, n, k, {0, kUntouchedPoint, kUntouched});
 }
 Answer stateless(const plain::Arc &arc, int32_t n, int32_t k) {
-    const double angles[2] = {arc.start, arc.end};
-    Answer got = {};
-    got.code = ca_elpdn(&arc.center, arc.a, arc.b, arc.rot, angles, n, k, &got.point, &got.piece);
-    return got;
+    return plain::ask(ca_elpdn, arc, n, k, {0, kUntouchedPoint, kUntouched});
 }
 /// No division is kept afterwards.
 void release() { kept({kCenter, 1, 1, 0, 0, 1}, 1, 2); }

@@ -207,14 +207,12 @@ TEST_F(PlainAgreement, divisionTables) {
         SCOPED_TRACE(testing::Message() << half.first << " " << half.second << " over " << r.lo
                                         << " " << r.hi << " by " << n);
         const plain::Table want = plain::divisionTable(arc, n);
-        const double angles[2] = {r.lo, r.hi};
         const double steps = static_cast<double>(plain::evenCount((r.hi - r.lo) / 0.001));
-        DTPOINT got;
-        double piece;
-        a2d_elpdn(&arc.center, arc.a, arc.b, arc.rot, angles, n, n + 1, &got, &piece);
+        plain::ask(a2d_elpdn, arc, n, n + 1);
         for (int32_t k = 1; k <= n; k += k < n - 100 ? 97 : 1) {
             const auto at = static_cast<std::size_t>(k);
-            ASSERT_EQ(a2d_elpdn(&arc.center, arc.a, arc.b, arc.rot, angles, n, k, &got, &piece), 0);
+            const auto [code, got, piece] = plain::ask(a2d_elpdn, arc, n, k);
+            ASSERT_EQ(code, 0);
             EXPECT_TRUE(agree(piece, want.piece));
             const double noted = want.parameters[at];
             const double t = std::isnan(noted) ? r.hi : noted; // the walk passed over k
@@ -238,11 +236,9 @@ TEST_F(PlainAgreement, samplesOfAPolyline) {
     }
     for (const Range &r : ranges) {
         const plain::Arc arc = {{0, 0}, 6, 4, 0, r.lo, r.hi};
-        const double angles[2] = {r.lo, r.hi}, want = plain::divide(arc, 7, 3).piece;
-        DTPOINT got;
-        double piece = kUntouched;
-        EXPECT_EQ(ca_elpdn(&arc.center, arc.a, arc.b, arc.rot, angles, 7, 3, &got, &piece), 0);
-        EXPECT_NEAR(piece, want, 1e-10) << r.lo << " " << r.hi;
+        const plain::Division got = plain::ask(ca_elpdn, arc, 7, 3);
+        EXPECT_EQ(got.code, 0);
+        EXPECT_NEAR(got.piece, plain::divide(arc, 7, 3).piece, 1e-10) << r.lo << " " << r.hi;
     }
 }
 
@@ -259,11 +255,9 @@ TEST_F(PlainAgreement, polylines) {
         const auto n = static_cast<int32_t>(random.uniform(1, 50));
         const auto k = static_cast<int32_t>(random.uniform(1, n + 2));
         const plain::Division want = plain::divide(arc, n, k);
-        const double angles[2] = {r.lo, end};
-        DTPOINT got = kUntouchedPoint;
-        double piece = kUntouched;
-        ASSERT_EQ(ca_elpdn(&arc.center, arc.a, arc.b, arc.rot, angles, n, k, &got, &piece),
-                  want.code);
+        const auto [code, got, piece] =
+            plain::ask(ca_elpdn, arc, n, k, {0, kUntouchedPoint, kUntouched});
+        ASSERT_EQ(code, want.code);
         const double size = std::fabs(arc.a) + std::fabs(arc.b) + 200.0;
         // The chords have the rounding of coordinates, some 2 ulps each.
         EXPECT_NEAR(piece, want.piece, 1e-12 * want.piece + 362 * 2 * kEpsilon * size / n);

@@ -212,6 +212,14 @@ struct Division {
     double piece;
 };
 
+/// The answer of a2d_elpdn or ca_elpdn, whose outputs are those of `got` before.
+template <class F>
+Division ask(F f, const Arc &arc, std::int32_t n, std::int32_t k, Division got = {}) {
+    const double angles[2] = {arc.start, arc.end};
+    got.code = f(&arc.center, arc.a, arc.b, arc.rot, angles, n, k, &got.point, &got.piece);
+    return got;
+}
+
 /// ca_elpdn for a span of at most 361 degrees.
 inline Division divide(const Arc &arc, std::int32_t n, std::int32_t k) {
     if (n <= 0 || k <= 0 || arc.start > arc.end) return {1, {}, 0.0};
