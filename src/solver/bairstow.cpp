@@ -155,9 +155,8 @@ void storeRoots(Factor factor, double *out) {
 }
 
 template <std::size_t Degree>
-Bairstow solveInClosedForm(Roots<Degree> (*solve)(const Polynomial<Degree> &), const double *c,
-                           double *out) {
-    const std::int32_t count = store(solve(load<Degree>(c)), out);
+Bairstow solveInClosedForm(Roots<Degree> (*solve)(const double *), const double *c, double *out) {
+    const std::int32_t count = store(solve(c), out);
     return count == kNoLeadingCoefficient ? Bairstow::noPolynomial : Bairstow::done;
 }
 

@@ -9,6 +9,7 @@
 #include "solver/closed_form.h"
 
 #include <cmath>
+#include <cstddef>
 
 #include "base/tolerance.h"
 #include "base/vec2.h"
@@ -29,15 +30,31 @@ double cubeRoot(double v) {
     return v < 0.0 ? -root : root;
 }
 
+Roots<2> quadraticRoots(const Polynomial<2> &c) {
+    if (c[0] == 0.0) return {{}, kNoLeadingCoefficient};
+    const Pair quotients = Pair{c[1], c[2]} / Pair{c[0], c[0]};
+    const double h = quotients[0] * 0.5;
+    const double discriminant = h * h - quotients[1];
+    if (discriminant > 0.0) {
+        const double s = std::sqrt(discriminant);
+        return {{real(s - h), real(-h - s)}, 2};
+    }
+    if (discriminant == 0.0) return {{real(-h), real(-h)}, 2};
+    const double s = std::sqrt(-discriminant);
+    return {{Complex{-h, s}, Complex{-h, -s}}, 0};
+}
+
 /// A cubic shifted by x = y - a to y^3 - 3 q y - 2 r = 0. Roots are computed one by one: the
 /// quartic seldom asks for more than the first.
 class ShiftedCubic {
   public:
     /// The leading coefficient is not zero.
-    explicit ShiftedCubic(const Polynomial<3> &c) : a_(c[1] / (3.0 * c[0])) {
+    explicit ShiftedCubic(const Polynomial<3> &c) {
+        const Pair quotients = Pair{c[1], c[3]} / Pair{3.0 * c[0], c[0]};
         const double linear = c[2] / c[0];
+        a_ = quotients[0];
         const double q = a_ * a_ - linear / 3.0;
-        const double r = ((linear - 2.0 * a_ * a_) * a_ - c[3] / c[0]) * 0.5;
+        const double r = ((linear - 2.0 * a_ * a_) * a_ - quotients[1]) * 0.5;
         const double discriminant = r * r - q * q * q;
         if (discriminant > 0.0) {
             kind_ = Kind::oneReal;
@@ -93,10 +110,10 @@ struct ShiftedQuartic {
 
     /// The leading coefficient is not zero.
     explicit ShiftedQuartic(const Polynomial<4> &polynomial) {
-        const double b = polynomial[1] / polynomial[0];
-        const double c = polynomial[2] / polynomial[0];
-        const double d = polynomial[3] / polynomial[0];
-        const double e = polynomial[4] / polynomial[0];
+        const Pair leads = {polynomial[0], polynomial[0]};
+        const Pair odd = Pair{polynomial[1], polynomial[3]} / leads;
+        const Pair even = Pair{polynomial[2], polynomial[4]} / leads;
+        const double b = odd[0], c = even[0], d = odd[1], e = even[1];
         const double half = b / 2.0;
         const double quarter = b / 4.0;
         const double quarterSquared = quarter * quarter;
@@ -140,8 +157,8 @@ Roots<4> joined(const Roots<2> &a, const Roots<2> &b) {
 Roots<4> solveByFactors(const ShiftedQuartic &quartic, double z, double s) {
     const double middle = z / 2.0;
     const double spread = quartic.q / (2.0 * s);
-    return joined(solveQuadratic({1.0, s, middle - spread}),
-                  solveQuadratic({1.0, -s, middle + spread}));
+    return joined(quadraticRoots({1.0, s, middle - spread}),
+                  quadraticRoots({1.0, -s, middle + spread}));
 }
 
 /// The two roots of y^2 = w.
@@ -153,7 +170,7 @@ Roots<2> squareRoots(double w) {
 
 /// y^4 + p y^2 + r = 0; a linear term is ignored.
 Roots<4> solveBiquadratic(const ShiftedQuartic &quartic) {
-    const Roots<2> w = solveQuadratic({1.0, quartic.p, quartic.r});
+    const Roots<2> w = quadraticRoots({1.0, quartic.p, quartic.r});
     if (w.realCount == 2) return joined(squareRoots(w.root[0].re), squareRoots(w.root[1].re));
     // The second square is the conjugate of the first, and so is its root.
     const Complex s1 = squareRoot(w.root[0]);
@@ -185,33 +202,22 @@ Complex squareRoot(Complex z) {
     return {kSqrtHalf * std::fabs(z.im) / t, z.im < 0.0 ? -large : large};
 }
 
-Roots<2> solveQuadratic(const Polynomial<2> &c) {
-    if (c[0] == 0.0) return {{}, kNoLeadingCoefficient};
-    const double h = c[1] / c[0] * 0.5;
-    const double discriminant = h * h - c[2] / c[0];
-    if (discriminant == 0.0) return {{real(-h), real(-h)}, 2};
-    // Chosen without a branch: the sign is as good as random.
-    const bool isReal = discriminant > 0.0;
-    const double s = std::sqrt(isReal ? discriminant : -discriminant);
-    return {{Complex{isReal ? s - h : -h, isReal ? 0.0 : s},
-             Complex{isReal ? -h - s : -h, isReal ? 0.0 : -s}},
-            isReal ? 2 : 0};
-}
+Roots<2> solveQuadratic(const double *c) { return quadraticRoots(load<2>(c)); }
 
-Roots<3> solveCubic(const Polynomial<3> &c) {
+Roots<3> solveCubic(const double *c) {
     if (c[0] == 0.0) return {{}, kNoLeadingCoefficient};
-    const ShiftedCubic cubic(c);
+    const ShiftedCubic cubic(load<3>(c));
     return {{cubic.root(0), cubic.root(1), cubic.root(2)}, cubic.realCount()};
 }
 
-Roots<4> solveQuartic(const Polynomial<4> &c) {
+Roots<4> solveQuartic(const double *c) {
     if (c[0] == 0.0) return {{}, kNoLeadingCoefficient};
-    const ShiftedQuartic quartic(c);
-    Roots<4> roots = solveShifted(quartic);
-    for (Complex &root : roots.root) {
-        root.re -= quartic.shift;
-    }
-    return roots;
+    const ShiftedQuartic quartic(load<4>(c));
+    const Roots<4> y = solveShifted(quartic);
+    const auto x = [&](std::size_t k) {
+        return Complex{y.root[k].re - quartic.shift, y.root[k].im};
+    };
+    return {{x(0), x(1), x(2), x(3)}, y.realCount};
 }
 
 } // namespace planegeo
@@ -225,16 +231,12 @@ int32_t amaSolveLinerEquation(const double *c, double *x) {
 }
 
 int32_t amaSolveEquationOf2ndD(const double *c, double *out) {
-    return store(solveQuadratic(load<2>(c)), out);
+    return store(solveQuadratic(c), out);
 }
 
-int32_t amaSolveEquationOf3rdD(const double *c, double *out) {
-    return store(solveCubic(load<3>(c)), out);
-}
+int32_t amaSolveEquationOf3rdD(const double *c, double *out) { return store(solveCubic(c), out); }
 
-int32_t amaSolveEquationOf4thD(const double *c, double *out) {
-    return store(solveQuartic(load<4>(c)), out);
-}
+int32_t amaSolveEquationOf4thD(const double *c, double *out) { return store(solveQuartic(c), out); }
 
 DTCOMPLEX ama_c_sqrt(DTCOMPLEX z) {
     const Complex root = squareRoot({z.re, z.im});

@@ -8,9 +8,9 @@ namespace planegeo {
 /// The principal square root.
 Complex squareRoot(Complex z);
 
-Roots<2> solveQuadratic(const Polynomial<2> &c);
-Roots<3> solveCubic(const Polynomial<3> &c);
+Roots<2> solveQuadratic(const double *c);
+Roots<3> solveCubic(const double *c);
 /// The roots of two quadratic factors, one with real roots before one without.
-Roots<4> solveQuartic(const Polynomial<4> &c);
+Roots<4> solveQuartic(const double *c);
 
 } // namespace planegeo
