@@ -16,6 +16,29 @@ double snappedDirectionRad(Vec2 v) {
     return rad < 0.0 ? rad + kTwoPi : rad;
 }
 
+double reducedByTurns(double deg) {
+    if (deg > kReducedMaxDeg) {
+        deg = deg < 720.0 ? deg - 360.0 : remainderOfTurns(deg);
+        if (deg > kReducedMaxDeg) deg -= 360.0;
+    } else if (deg < -kReducedMaxDeg) {
+        deg = deg > -720.0 ? deg + 360.0 : remainderOfTurns(deg);
+        if (deg < -kReducedMaxDeg) deg += 360.0;
+    }
+    return deg < 0.0 ? deg + 360.0 : deg;
+}
+
+double keeping360ByTurns(double deg) {
+    if (deg > 360.0) {
+        const double rest = remainderOfTurns(deg);
+        return rest == 0.0 ? 360.0 : rest;
+    }
+    if (deg < 0.0) {
+        const double rest = remainderOfTurns(deg);
+        return rest < 0.0 ? rest + 360.0 : rest;
+    }
+    return deg;
+}
+
 } // namespace planegeo
 
 namespace {

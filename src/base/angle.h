@@ -59,31 +59,35 @@ double snappedDirectionRad(Vec2 v);
 /// positive, as from a subtraction. NaN for infinities.
 inline double remainderOfTurns(double deg) { return std::fmod(deg, 360.0) + 0.0; }
 
+/// An angle with a turn taken off, or added, where a condition holds that is anybody's guess: by a
+/// table, as compilers would branch. Zero is subtracted otherwise, which keeps the sign of a zero.
+inline double loweredIf(bool condition, double deg) {
+    static constexpr double kTurn[] = {0.0, 360.0};
+    return deg - kTurn[condition];
+}
+inline double raisedIf(bool condition, double deg) {
+    static constexpr double kTurn[] = {0.0, -360.0};
+    return deg - kTurn[condition];
+}
+
+/// Whether reducedDeg() leaves an angle as it is, apart from those just below 360.
+inline bool isReduced(double deg) { return 0.0 <= deg && deg <= kReducedMaxDeg; }
+
+/// reducedDeg() without its short cut.
+[[gnu::noinline]] double reducedByTurns(double deg);
+
 /// Reduction to [0, 360]: an angle in (kReducedMaxDeg, 360) goes down a turn and comes back
 /// up by it, so that it keeps its value; a negative one that rounds up gives 360.
-inline double reducedDeg(double deg) {
-    if (deg > kReducedMaxDeg) {
-        deg = deg < 720.0 ? deg - 360.0 : remainderOfTurns(deg);
-        if (deg > kReducedMaxDeg) deg -= 360.0;
-    } else if (deg < -kReducedMaxDeg) {
-        deg = deg > -720.0 ? deg + 360.0 : remainderOfTurns(deg);
-        if (deg < -kReducedMaxDeg) deg += 360.0;
-    }
-    return deg < 0.0 ? deg + 360.0 : deg;
-}
+inline double reducedDeg(double deg) { return isReduced(deg) ? deg : reducedByTurns(deg); }
+
+/// reducedKeeping360() without its short cut.
+[[gnu::noinline]] double keeping360ByTurns(double deg);
 
 /// The other reduction, to [0, 360]: 360 is subtracted while the angle exceeds 360 and added
 /// while it is negative, so 360 stays 360.
 inline double reducedKeeping360(double deg) {
-    if (deg > 360.0) {
-        const double rest = remainderOfTurns(deg);
-        return rest == 0.0 ? 360.0 : rest;
-    }
-    if (deg < 0.0) {
-        const double rest = remainderOfTurns(deg);
-        return rest < 0.0 ? rest + 360.0 : rest;
-    }
-    return deg;
+    if (!(-360.0 < deg && deg < 720.0)) return keeping360ByTurns(deg);
+    return loweredIf(deg > 360.0, raisedIf(deg < 0.0, deg));
 }
 
 /// How far apart two angles of one turn are, the shorter way round.
@@ -102,6 +106,14 @@ struct AngleRange {
     /// Both ends may be any finite angles; equal ones mean the full circle.
     static Normalised normalised(double start, double end);
 
+    /// An end before the start counts a turn later, and the range a turn lower where its end is
+    /// then above 360.
+    AngleRange wrapped() const {
+        const double last = raisedIf(start > end, end);
+        const bool isAbove = last > 360.0;
+        return {loweredIf(isAbove, start), loweredIf(isAbove, last)};
+    }
+
     /// A normalised range that lacks less than kAngleSlackDeg of a turn holds every angle.
     bool isWholeTurn() const { return end - start > 360.0 - kAngleSlackDeg; }
 
@@ -113,8 +125,8 @@ struct AngleRange {
         const double last = end + kAngleSlackDeg;
         const double first = start - kAngleSlackDeg;
         angle = reducedDeg(angle);
-        if (angle > last) angle -= 360.0;
-        if (first > angle) angle += 360.0;
+        angle = loweredIf(angle > last, angle);
+        angle = raisedIf(first > angle, angle);
         return !(angle > last); // a NaN passes
     }
 
@@ -140,16 +152,8 @@ inline AngleRange::Normalised AngleRange::normalised(double start, double end) {
     start = reducedDeg(start);
     end = reducedDeg(end);
     const bool equal = std::fabs(end - start) < kAngleSlackDeg;
-    if (equal) {
-        end = start + 360.0;
-    } else if (start > end) {
-        end += 360.0;
-    }
-    if (end > 360.0) {
-        start -= 360.0;
-        end -= 360.0;
-    }
-    return {{start, end}, equal};
+    if (equal) end = start + 360.0;
+    return {AngleRange{start, end}.wrapped(), equal};
 }
 
 /// Whether a component is so short that snappedDirectionRad() counts it as zero.
@@ -193,7 +197,16 @@ bool holdsSnappedDirection(Vec2 v, double rotationDeg, const CoarseRange &ends, 
 }
 
 /// Whether an arc given by any two angles holds a third.
+///
+/// Within a turn it does where (angle - start)(end - angle)(end - start) is positive. No factor
+/// exceeds 360, so where the product is far from zero, each of them is far from kAngleSlackDeg.
 inline bool isOnArc(double start, double end, double angle) {
+    constexpr double kClearProduct = 360.0 * 360.0 * 2.0 * kAngleSlackDeg;
+    const double product = (angle - start) * (end - angle) * (end - start);
+    if (isReduced(start) && isReduced(end) && isReduced(angle) &&
+        std::fabs(product) > kClearProduct) {
+        return product > 0.0;
+    }
     return AngleRange::normalised(start, end).range.contains(angle);
 }
 

@@ -56,14 +56,10 @@ bool isWholeTurn(AngleRange range) { return std::fabs(range.end - range.start) >
 AngleRange storedRange(AngleRange range) {
     constexpr AngleRange kFullCircle = {0.0, 360.0};
     if (isWholeTurn(range)) return kFullCircle;
-    double start = reducedKeeping360(range.start);
-    double end = reducedKeeping360(range.end);
-    if (start > end) end += 360.0;
-    if (end > 360.0) {
-        start -= 360.0;
-        end -= 360.0;
-    }
-    return isWholeTurn({start, end}) ? kFullCircle : AngleRange{start, end};
+    range = {reducedKeeping360(range.start), reducedKeeping360(range.end)};
+    range = range.wrapped();
+    if (isWholeTurn(range)) return kFullCircle;
+    return range;
 }
 
 void storeRange(AngleRange range, double *angles) {

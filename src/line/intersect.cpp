@@ -11,29 +11,51 @@ using namespace planegeo;
 /// Two lines in normal form, n . x = c. The constants are formed at the given coordinates,
 /// without a shift.
 struct LinePair {
-    Vec2 normalA, normalB;
-    double a, b;
+    Vec2Pair starts, directions, normals;
+    Pair constants;
     double determinant; ///< cross product of the directions
 
-    LinePair(const Segment &first, const Segment &second)
-        : normalA(normalOf(first)), normalB(normalOf(second)), a(dot(normalA, first.start)),
-          b(dot(normalB, second.start)),
-          determinant(normalB.y * normalA.x - normalB.x * normalA.y) {}
+    LinePair(Vec2Pair from, Vec2Pair to)
+        : starts(from), directions(to - from), normals{to.y - from.y, from.x - to.x},
+          constants(dot(normals, starts)),
+          determinant(normals.y[1] * normals.x[0] - normals.x[1] * normals.y[0]) {}
 
     Vec2 intersection() const {
-        return {(normalB.y * a - b * normalA.y) / determinant,
-                (b * normalA.x - normalB.x * a) / determinant};
+        return {(normals.y[1] * constants[0] - constants[1] * normals.y[0]) / determinant,
+                (constants[1] * normals.x[0] - normals.x[1] * constants[0]) / determinant};
     }
-
-  private:
-    static Vec2 normalOf(const Segment &s) { return {s.end.y - s.start.y, s.start.x - s.end.x}; }
 };
+
+LinePair loadLines(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *b1, const DTPOINT *b2) {
+    return {pairOf(load(a1), load(b1)), pairOf(load(a2), load(b2))};
+}
 
 /// On purpose both quotients must be small: one alone is no parallel.
 bool areParallel(double determinant, const Segment &first, const Segment &second) {
     const double tolerance = distanceTolerance();
     return isQuotientBelow(std::fabs(determinant), first.direction(), tolerance) &&
            isQuotientBelow(std::fabs(determinant), second.direction(), tolerance);
+}
+
+struct TwoLines {
+    const DTPOINT *a1, *a2, *b1, *b2;
+};
+
+/// a2d_ins2l() without its short cut.
+[[gnu::noinline]] int32_t crossByDistance(TwoLines points, DTPOINT *out) {
+    const auto [a1, a2, b1, b2] = points;
+    const Segment a = load(a1, a2);
+    const Segment b = load(b1, b2);
+    const LinePair lines = loadLines(a1, a2, b1, b2);
+    if (areParallel(lines.determinant, a, b)) {
+        store({0.0, 0.0}, out);
+        return 2;
+    }
+    const Vec2 point = lines.intersection();
+    store(point, out);
+    const bool isOnBoth =
+        onSegment(a, point) == OnSegment::yes && onSegment(b, point) == OnSegment::yes;
+    return isOnBoth ? 0 : 1;
 }
 
 bool isVertical(double deg) {
@@ -58,7 +80,7 @@ extern "C" {
 
 int32_t a2dCrs2L(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *b1, const DTPOINT *b2,
                  DTPOINT *out) {
-    const LinePair lines(load(a1, a2), load(b1, b2));
+    const LinePair lines = loadLines(a1, a2, b1, b2);
     if (std::fabs(lines.determinant) < kParallelCross) return 0;
     store(lines.intersection(), out);
     return 1;
@@ -66,18 +88,18 @@ int32_t a2dCrs2L(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *b1, const 
 
 int32_t a2d_ins2l(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *b1, const DTPOINT *b2,
                   DTPOINT *out) {
-    const Segment a = load(a1, a2);
-    const Segment b = load(b1, b2);
-    const LinePair lines(a, b);
-    if (areParallel(lines.determinant, a, b)) {
-        store({0.0, 0.0}, out);
-        return 2;
-    }
+    const LinePair lines = loadLines(a1, a2, b1, b2);
     const Vec2 point = lines.intersection();
+    const SegmentLook<Vec2Pair> look(lines.directions, pairOf(point, point) - lines.starts);
+    // A determinant above the slack of one line is none of parallels, see isQuotientBelow().
+    const Pair told =
+        smaller(std::fabs(lines.determinant) - look.slack, longestTold() - look.longer);
+    const Pair insideIfNear = look.onLine > 0.0 ? look.inside : Pair{};
+    const Pair on = smallerOf(told > 0.0 ? insideIfNear : Pair{});
+    const Pair off = largerOf(told > 0.0 ? look.outside : Pair{});
+    if (!(larger(on, off)[0] > 0.0)) return crossByDistance({a1, a2, b1, b2}, out);
     store(point, out);
-    const bool isOnA = onSegment(a, point) == OnSegment::yes;
-    const bool isOnB = onSegment(b, point) == OnSegment::yes;
-    return (isOnA & isOnB) ? 0 : 1;
+    return off[0] > 0.0 ? 1 : 0;
 }
 
 int32_t ca_ins2l(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *b1, const DTPOINT *b2,

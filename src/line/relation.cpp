@@ -4,14 +4,14 @@
 
 namespace planegeo {
 
-OnSegment onSegmentByDistance(const Segment &segment, Vec2 q) {
+OnSegment onSegmentByDistance(Vec2 start, Vec2 end, Vec2 q) {
     const double tolerance = distanceTolerance();
-    const Vec2 fromStart = q - segment.start;
-    const Vec2 fromEnd = q - segment.end;
+    const Vec2 fromStart = q - start;
+    const Vec2 fromEnd = q - end;
     if (isShorterThan(fromStart, tolerance) || isShorterThan(fromEnd, tolerance)) {
         return OnSegment::yes;
     }
-    const Vec2 direction = segment.direction();
+    const Vec2 direction = end - start;
     if (isShorterThan(direction, tolerance)) return OnSegment::segmentTooShort;
     const double distanceTimesLength = std::fabs(cross(direction, fromStart));
     if (!isQuotientBelow(distanceTimesLength, direction, tolerance)) return OnSegment::no;
