@@ -1,4 +1,4 @@
-/// The integrands of an ellipse as cosine series, and sums over their samples in closed form.
+/// The speed along an ellipse as a cosine series.
 #pragma once
 
 #include <array>
@@ -8,21 +8,14 @@
 
 namespace planegeo {
 
-inline constexpr double kUnitRoundoff = 0x1p-53;
-
 /// slope t + a_1 sin 2t + a_2 sin 4t + ..., what integrals and sums make of a cosine series.
 struct SineSeries;
 
 /// f(t) = c_0 + c_1 cos 2t + c_2 cos 4t + ..., with the terms that a double can tell.
 ///
 /// With A and B the half axes, P = (A + B) / 2 and rho = (B - A) / (A + B), the speed along the
-/// ellipse is P |1 + rho e^2it|, and the area swept per polar angle A B / 2 times the Poisson
-/// kernel of -rho. Both have coefficients that fall like rho^k: axes of 2 : 1 take 27 terms.
-///
-/// The sum of a term over equidistant samples is known. Over n steps h of a range of length
-/// s = n h about the middle m, the Simpson rule turns cos 2kt into
-///     h/3 (2 + cos 2kh) / sin 2kh * 2 cos 2km sin ks,
-/// so a pass over f is known to rounding without a sample.
+/// ellipse is P |1 + rho e^2it|. Its coefficients fall like rho^k: axes of 2 : 1 take 27 terms. The
+/// sum of a term over equidistant samples is known, and so is that of f, to rounding.
 class CosineSeries {
   public:
     /// Enough for axes of 16 : 1.
@@ -32,17 +25,10 @@ class CosineSeries {
     CosineSeries() = default;
     /// sqrt(A^2 sin^2 t + B^2 cos^2 t).
     static CosineSeries ofArcSpeed(double halfFirst, double halfSecond);
-    /// A^2 B^2 / (2 (B^2 cos^2 t + A^2 sin^2 t)).
-    static CosineSeries ofSectorSpeed(double halfFirst, double halfSecond);
-
     /// False where an axis is zero or its square none, or the ellipse too thin for kMostTerms.
     bool isUsable() const { return terms_ >= 0; }
     int terms() const { return terms_; }
     double operator[](int k) const { return c_[static_cast<std::size_t>(k)]; }
-
-    /// The integral over [lo, hi] degrees that the plain steps reach: see refine(). `undecided`
-    /// also without a series, and where it has too many terms for a step of a degree.
-    Integral integral(double lo, double hi, std::int64_t longestPass) const;
 
     /// The sine series whose term k is that of this series times factor(k), its slope c_0.
     template <class Factor> SineSeries sines(Factor factor) const;
@@ -53,12 +39,10 @@ class CosineSeries {
   private:
     explicit CosineSeries(int terms) : terms_(terms) {}
     double &c(int k) { return c_[static_cast<std::size_t>(k)]; }
-    SimpsonSum simpson(double lo, double hi, std::int64_t n) const;
 
     int terms_ = -1;
     std::array<double, kMostTerms + 1> c_;
     double weight_ = 0.0;
-    double firstPassError_ = 0.0; ///< how far at most a first pass is from the second
 };
 
 struct SineSeries {

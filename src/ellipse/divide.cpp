@@ -21,13 +21,13 @@ constexpr std::int32_t kNoTable = 1;
 constexpr std::int32_t kReversedRange = -1;
 constexpr std::int32_t kOutOfIntervals = -2;
 
-/// The largest interval count that is still refined.
-constexpr std::int64_t kLongestPass = 2147483647;
 /// More steps than these are not walked, more pieces not looked for one by one.
 constexpr std::int64_t kMostWalkedSteps = 1'440'000;
 constexpr std::int32_t kMostSoughtPieces = 1 << 16;
 /// A span above it, a hundred turns, is out of intervals without a walk.
 constexpr double kLongestSpanDeg = 36000.0;
+/// Above kLongestThinRangeDeg more terms, an axis below some fifth of the other, are the same.
+constexpr int kMostTermsOfManyTurns = 64;
 /// Steps of the running sum in a piece, on average, from which on they are not walked.
 constexpr std::int64_t kStepsPerPiece = 64;
 /// A table of more entries counts as one that cannot be allocated.
@@ -109,9 +109,11 @@ bool noteBySeries(const ArcSpeed &speed, const CosineSeries &series, const Steps
 }
 
 Integral lengthOf(const Arc &arc, const CosineSeries &series) {
-    const Integral summed = series.integral(arc.start, arc.end, kLongestPass);
-    if (summed.outcome != Refinement::undecided) return summed;
-    return GridSum(EllipseSpeed::arc, arc.a * 0.5, arc.b * 0.5).integral(arc.start, arc.end);
+    const bool isThin = !series.isUsable() || series.terms() > kMostTermsOfManyTurns;
+    if (isThin && arc.end - arc.start > kLongestThinRangeDeg) return {Refinement::outOfIntervals};
+    const GridSum sum(EllipseSpeed::arc, arc.a * 0.5, arc.b * 0.5);
+    const Integral found = sum.integral(arc.start, arc.end);
+    return found.outcome != Refinement::undecided ? found : sum.certain(arc.start, arc.end);
 }
 
 /// Divides an arc whose start is not above its end. Returns the code.

@@ -1,18 +1,25 @@
-// Trapezoid sums by the Euler-Maclaurin formula, and the Simpson rule made of them.
+// The Simpson rule over a range of an ellipse: by passes that have no samples, by trapezoid sums
+// that have few, and by all of them.
 
 #include "ellipse/grid_sum.h"
 
 #include <algorithm>
 #include <array>
 
+#include "ellipse/simpson_passes.h"
 #include "ellipse/speed.h"
 
 namespace planegeo {
 
 namespace {
 
-/// A shorter axis below adds less than rounding to the length of any measurable arc.
-constexpr double kFlatAxis = 0x1p-40;
+/// Half axes whose squares neither over- nor underflow.
+constexpr double kLeastHalfAxis = 0x1p-400;
+constexpr double kGreatestHalfAxis = 0x1p400;
+/// Farther limits would make the rounding of a sample's angle the larger error.
+constexpr double kFarthestLimitDeg = 1000000.0;
+/// A sum known to less of its value is not told.
+constexpr double kPrecise = 0x1p-43;
 
 /// So many steps from a singularity the first term left out is below B_14 / 14 10^-13 of a sample.
 constexpr double kFarSteps = 10.0;
@@ -21,155 +28,44 @@ constexpr double kFarSteps = 10.0;
 constexpr std::int64_t kMostSampledSteps = 2048;
 /// Steps end at kSmallestStepDeg long before.
 constexpr std::int64_t kNoLongestPass = std::int64_t{1} << 40;
-constexpr std::size_t kCorrections = 6;
-/// B_2k / 2k, k = 1 to 6.
-constexpr std::array<double, kCorrections> kBernoulliPerOrder = {
-    1.0 / 12.0, -1.0 / 120.0, 1.0 / 252.0, -1.0 / 240.0, 1.0 / 132.0, -691.0 / 32760.0};
-
-/// Of an expansion about a point.
-using Coefficients = std::array<double, 2 * kCorrections>;
-
-/// Of g about an angle.
-Coefficients expandedSquare(double b, Rotation u) {
-    const double wave = 0.5 * (1.0 - b) * (1.0 + b); // g = mean - wave cos 2u
-    const Rotation twice = u * u;
-    Coefficients g = {b * b * (u.c * u.c) + u.s * u.s};
-    double factor = wave;
-    for (std::size_t k = 1; k < g.size(); ++k) {
-        factor *= 2.0 / static_cast<double>(k);
-        const double derivative[] = {-twice.c, twice.s, twice.c, -twice.s}; // of -cos
-        g[k] = factor * derivative[k % 4];
-    }
-    return g;
-}
-
-Coefficients root(const Coefficients &g) {
-    Coefficients y = {std::sqrt(g[0])};
-    for (std::size_t k = 1; k < y.size(); ++k) {
-        double rest = g[k];
-        for (std::size_t j = 1; j < k; ++j) {
-            rest -= y[j] * y[k - j];
-        }
-        y[k] = rest / (2.0 * y[0]);
-    }
-    return y;
-}
-
-Coefficients quotient(double numerator, const Coefficients &g) {
-    Coefficients y = {numerator / g[0]};
-    for (std::size_t k = 1; k < y.size(); ++k) {
-        double rest = 0.0;
-        for (std::size_t j = 1; j <= k; ++j) {
-            rest -= g[j] * y[k - j];
-        }
-        y[k] = rest / g[0];
-    }
-    return y;
-}
-
-/// The integral of sqrt(b^2 cos^2 + sin^2) from 0 to an angle of the first quadrant, without a
-/// difference: s b^2 R_F + (1 - b^2) b^2 / 3 s^3 R_D at (b^2 c^2, f^2, b^2), f being the root at
-/// the angle, R_F and R_D Carlson's symmetric integrals, by duplication.
-double lengthFromEnd(double b, Rotation u) {
-    constexpr double kClose = 0x1p-14; // its fourth power is left out
-    constexpr int kMostDuplications = 60;
-    const double b2 = b * b;
-    const double focal2 = (1.0 - b) * (1.0 + b);
-    double x = b2 * (u.c * u.c);
-    double y = b2 + focal2 * (u.s * u.s);
-    double z = b2;
-    double sum = 0.0;
-    double part = 1.0;
-    const auto isWide = [&] {
-        const auto [least, greatest] = std::minmax({x, y, z});
-        return greatest - least > kClose * greatest;
-    };
-    for (int i = 0; i < kMostDuplications && isWide(); ++i) {
-        const double rx = std::sqrt(x), ry = std::sqrt(y), rz = std::sqrt(z);
-        const double shift = rx * ry + ry * rz + rz * rx;
-        sum += part / (rz * (z + shift));
-        part *= 0.25;
-        x = (x + shift) * 0.25;
-        y = (y + shift) * 0.25;
-        z = (z + shift) * 0.25;
-    }
-    const double m = (x + y + z) / 3.0;
-    const double fx = 1.0 - x / m, fy = 1.0 - y / m, fz = -fx - fy;
-    const double first = (1.0 - (fx * fy - fz * fz) / 10.0 + fx * fy * fz / 14.0) / std::sqrt(m);
-    const double n = (x + y + 3.0 * z) / 5.0;
-    const double dx = 1.0 - x / n, dy = 1.0 - y / n, dz = (-dx - dy) / 3.0;
-    const double second = 3.0 * sum + part *
-                                          (1.0 - (dx * dy - 6.0 * dz * dz) * 3.0 / 14.0 +
-                                           (3.0 * dx * dy - 8.0 * dz * dz) * dz / 6.0) /
-                                          (n * std::sqrt(n));
-    return b2 * u.s * (first + focal2 / 3.0 * (u.s * u.s) * second);
-}
+/// B_2k / (2k)!, k = 1 to 6.
+constexpr std::array<double, kCorrections> kBernoulliFactors = {
+    1.0 / 12.0,       -1.0 / 720.0,     1.0 / 30240.0,
+    -1.0 / 1209600.0, 1.0 / 47900160.0, -691.0 / 1307674368000.0};
 
 } // namespace
 
 GridSum::GridSum(EllipseSpeed speed, double halfFirst, double halfSecond)
-    : speed_(speed), halfFirst_(halfFirst), halfSecond_(halfSecond) {
-    const double a = std::fabs(halfFirst);
-    const double b = std::fabs(halfSecond);
-    const auto [shorter, longer] = std::minmax(a, b);
-    b_ = shorter / longer;
-    scale_ = speed == EllipseSpeed::arc ? longer : longer * longer;
-    endDeg_ = a >= b ? 0.0 : 90.0;
-}
+    : GridSum(speed, halfFirst, halfSecond, std::fabs(halfFirst), std::fabs(halfSecond)) {}
+
+GridSum::GridSum(EllipseSpeed speed, double halfFirst, double halfSecond, double a, double b)
+    : halfFirst_(halfFirst), halfSecond_(halfSecond), longer_(std::max(a, b)),
+      unit_(speed, std::min(a, b) / longer_),
+      scale_(speed == EllipseSpeed::arc ? longer_ : longer_ * longer_),
+      endDeg_(a >= b ? 0.0 : 90.0) {}
 
 double GridSum::sample(double deg) const {
-    if (speed_ == EllipseSpeed::arc) return ArcSpeed::of(halfFirst_, halfSecond_)(deg);
+    if (unit_.kind() == EllipseSpeed::arc) return ArcSpeed::of(halfFirst_, halfSecond_)(deg);
     return SectorSpeed::of(halfFirst_, halfSecond_)(deg);
 }
 
-/// From the nearest end of the longer axis.
-double GridSum::offsetDeg(double deg) const { return std::remainder(deg - endDeg_, 180.0); }
-
-/// Of the arc's speed, from an end of the longer axis.
-double GridSum::arcTo(double deg) const {
-    const auto fromEnd = [this](double offset) {
-        const Rotation u = Rotation::ofDegrees(offset);
-        return b_ < kFlatAxis ? u.s * u.s / (1.0 + u.c) : lengthFromEnd(b_, u);
-    };
-    const double u = offsetDeg(deg);
-    const double halfTurns = std::nearbyint((deg - endDeg_ - u) / 180.0);
-    return halfTurns * 2.0 * fromEnd(90.0) + std::copysign(fromEnd(std::fabs(u)), u);
-}
-
-/// The swept angle is that between (b cos, sin) at both ends, scaled.
-double GridSum::sectorBetween(double fromDeg, double toDeg) const {
-    const double halfTurns = std::floor((toDeg - fromDeg) / 180.0);
-    const double restDeg = (toDeg - fromDeg) - 180.0 * halfTurns;
-    const Rotation from = Rotation::ofDegrees(offsetDeg(fromDeg));
-    const Rotation rest = Rotation::ofDegrees(restDeg);
-    const Rotation to = from * rest;
-    const double swept = std::atan2(b_ * rest.s, b_ * b_ * from.c * to.c + from.s * to.s);
-    return 0.5 * b_ * (halfTurns * kPi + swept);
-}
-
-double GridSum::integralBetween(double fromDeg, double toDeg) const {
-    if (speed_ == EllipseSpeed::sector) return sectorBetween(fromDeg, toDeg);
-    return arcTo(toDeg) - arcTo(fromDeg);
-}
-
 /// What a sum that starts or ends at an angle has beside the integral.
-double GridSum::correction(double deg, double h) const {
-    const Coefficients g = expandedSquare(b_, Rotation::ofDegrees(offsetDeg(deg)));
-    const Coefficients f = speed_ == EllipseSpeed::arc ? root(g) : quotient(0.5 * b_ * b_, g);
+double GridSum::correction(const Offset &at, double h) const {
+    const OddDerivatives f = unit_.derivatives(at.turn);
     const double step2 = h * h * (kRadPerDeg * kRadPerDeg);
     double sum = 0.0;
     for (std::size_t k = kCorrections; k > 0; --k) {
-        sum = (sum + kBernoulliPerOrder[k - 1] * f[2 * k - 1]) * step2;
+        sum = (sum + kBernoulliFactors[k - 1] * f[k - 1]) * step2;
     }
     return sum;
 }
 
 double GridSum::smooth(const Grid &grid, std::int64_t from, std::int64_t to) const {
     if (from == to) return 0.0;
-    const double start = grid.at(from);
-    const double end = grid.at(to);
-    return scale_ *
-           (integralBetween(start, end) + (correction(end, grid.h) - correction(start, grid.h)));
+    const Offset start = Offset::ofDegrees(grid.at(from) - endDeg_);
+    const Offset end = Offset::ofDegrees(grid.at(to) - endDeg_);
+    return scale_ * (unit_.integralBetween(start, end) +
+                     (correction(end, grid.h) - correction(start, grid.h)));
 }
 
 double GridSum::trapezoidsOfSamples(const Grid &grid, std::int64_t from, std::int64_t to) const {
@@ -183,7 +79,7 @@ double GridSum::trapezoidsOfSamples(const Grid &grid, std::int64_t from, std::in
 
 double GridSum::trapezoids(const Grid &grid, std::int64_t n) const {
     const double nearDeg = kFarSteps * grid.h;
-    if (b_ * kDegPerRad >= nearDeg) return smooth(grid, 0, n);
+    if (unit_.b() * kDegPerRad >= nearDeg) return smooth(grid, 0, n);
     double sum = 0.0;
     std::int64_t done = 0;
     double end = endDeg_ + 180.0 * std::ceil((grid.lo - nearDeg - endDeg_) / 180.0);
@@ -208,7 +104,32 @@ double GridSum::simpsonOfSamples(double lo, double hi, std::int64_t n) const {
     return (sample(lo) + sample(hi) + sum) * h * kPi / 540.0; // h / 3 in radians
 }
 
+// In roundings: the sum over samples has n of its value for the additions, none of its terms
+// being negative; and for a term some 64, 32T for its angle, T being the larger limit. No speed of
+// the unit ellipse exceeds 1, nor does it change by more in a half turn.
 Integral GridSum::integral(double lo, double hi) const {
+    const double span = hi - lo;
+    const bool isNear = std::fabs(lo) <= kFarthestLimitDeg && std::fabs(hi) <= kFarthestLimitDeg;
+    const bool isSized = unit_.b() * longer_ >= kLeastHalfAxis && longer_ <= kGreatestHalfAxis;
+    if (!(unit_.b() >= kThinnestPasses && span > kShortestRangeDeg && isNear && isSized)) {
+        return {Refinement::undecided};
+    }
+    const SimpsonPasses passes(unit_, lo - endDeg_, hi - endDeg_);
+    const double farthest = (std::fabs(lo) + std::fabs(hi)) * kRadPerDeg;
+    const double ofTerms = scale_ * (64.0 + 32.0 * farthest) * (span * kRadPerDeg + 4.0);
+    double lastUncertainty = 0.0;
+    const Integral found = refine(span, kNoLongestPass, [&](std::int64_t n) -> SimpsonSum {
+        const Bounded sum = passes(span / static_cast<double>(n));
+        const double value = scale_ * sum.value;
+        const double rounding = kUnitRoundoff * (static_cast<double>(n) * value + ofTerms);
+        lastUncertainty = scale_ * sum.uncertainty;
+        return {value, rounding + lastUncertainty};
+    });
+    const bool isPrecise = lastUncertainty <= kPrecise * found.value;
+    return isPrecise ? found : Integral{Refinement::undecided};
+}
+
+Integral GridSum::certain(double lo, double hi) const {
     const double span = hi - lo;
     if (!takes(span)) return {Refinement::outOfIntervals};
     const double start = std::fmod(lo, 360.0);

@@ -8,7 +8,6 @@
 
 #include "base/settings.h"
 #include "ellipse/convert.h"
-#include "ellipse/cosine_series.h"
 #include "ellipse/grid_sum.h"
 #include "ellipse/simpson.h"
 #include "ellipse/speed.h"
@@ -79,15 +78,14 @@ struct Measured {
 };
 
 /// Integrals over ranges: those of a host's integrand over samples; those of the library's own,
-/// whose samples nobody can count, by its series at first and on demand by sums that decide.
+/// whose samples nobody can count, by passes without samples at first and on demand by sums that
+/// decide.
 class Measurer {
   public:
     explicit Measurer(PLANEGEO_INTEGRAND integrand) : integrand_(integrand) {
         if (integrand == arcSpeed || integrand == ca_lengelp) {
-            series_ = CosineSeries::ofArcSpeed(halfFirst(), halfSecond());
             sum_.emplace(EllipseSpeed::arc, halfFirst(), halfSecond());
         } else if (integrand == ca_AreaElp) {
-            series_ = CosineSeries::ofSectorSpeed(halfFirst(), halfSecond());
             sum_.emplace(EllipseSpeed::sector, halfFirst(), halfSecond());
         }
     }
@@ -100,8 +98,8 @@ class Measurer {
             lo = std::fmod(lo, 360.0);
             hi = lo + span;
         }
-        const Integral bySeries = series_.integral(lo, hi, kLongestPass);
-        if (bySeries.outcome != Refinement::undecided) return {lo, hi, bySeries};
+        const Integral byPasses = sum_->integral(lo, hi);
+        if (byPasses.outcome != Refinement::undecided) return {lo, hi, byPasses};
         return {lo, hi, summed(lo, hi)};
     }
     bool hasSummedEnough() const {
@@ -113,14 +111,13 @@ class Measurer {
 
   private:
     Integral summed(double lo, double hi) {
-        const Integral found = sum_->integral(lo, hi);
+        const Integral found = sum_->certain(lo, hi);
         summedSamples_ += found.samples;
         ++sums_;
         return found;
     }
 
     PLANEGEO_INTEGRAND integrand_;
-    CosineSeries series_;
     std::optional<GridSum> sum_;
     std::int64_t summedSamples_ = 0;
     int sums_ = 0;

@@ -9,6 +9,7 @@
 
 namespace planegeo {
 
+inline constexpr double kUnitRoundoff = 0x1p-53;
 /// h / 3 in radians, per degree of h.
 inline constexpr double kThirdRadPerDeg = 0.005817764173314432;
 

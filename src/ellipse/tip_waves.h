@@ -1,0 +1,42 @@
+/// What equidistant samples see of the sharp ends of an ellipse.
+#pragma once
+
+#include "ellipse/unit_speed.h"
+
+namespace planegeo {
+
+/// A value, and how far at most it is from the right one.
+struct Bounded {
+    double value;
+    double uncertainty;
+};
+
+/// A sum in steps h over a range is the integral, a correction at both ends (see SimpsonPasses),
+/// and for each end of the longer axis within, a tip at t, a wave in where the samples lo + i h
+/// fall beside it. The contour of
+///     2 Re of the integral of f(u) e^(2 pi i m (u - lo) / h),    m = 1, 2, ...
+/// which is what the sum has beside the integral, passes round the cut above the tip. With
+/// k = pi m / h, r = (1 - b) / (1 + b) and theta = 2 pi (t - lo) / h that is
+///     -4 J(k) cos m theta    with the arc's speed,    pi b r^k cos m theta    with the sector's,
+/// J(k) being the integral of sqrt(sin^2 iy + ...) e^(-2ky) along the cut,
+///     J(k) = sqrt(pi b) / 4 Gamma(k - 1/2) / Gamma(k + 1) r^k F(-1/2, 3/2; k + 1; -X),
+///     X = (1 - b)^2 / 4b.
+class TipWaves {
+  public:
+    /// Degrees from an end of the longer axis. With `isPeriodic` the range has whole half turns.
+    TipWaves(const UnitSpeed &speed, double lo, double hi, bool isPeriodic);
+
+    /// What they add to the Simpson rule in steps of h degrees, below 1.25.
+    Bounded simpson(double h) const;
+
+  private:
+    double phaseSum(double h, int m) const;
+    Bounded wave(double k, double power) const;
+
+    UnitSpeed speed_;
+    double lo_;
+    double firstTip_;
+    int tips_;
+};
+
+} // namespace planegeo
