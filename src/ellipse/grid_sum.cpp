@@ -44,6 +44,10 @@ GridSum::GridSum(EllipseSpeed speed, double halfFirst, double halfSecond, double
       scale_(speed == EllipseSpeed::arc ? longer_ : longer_ * longer_),
       endDeg_(a >= b ? 0.0 : 90.0) {}
 
+bool GridSum::isSized() const {
+    return unit_.b() * longer_ >= kLeastHalfAxis && longer_ <= kGreatestHalfAxis;
+}
+
 double GridSum::sample(double deg) const {
     if (unit_.kind() == EllipseSpeed::arc) return ArcSpeed::of(halfFirst_, halfSecond_)(deg);
     return SectorSpeed::of(halfFirst_, halfSecond_)(deg);
@@ -110,8 +114,8 @@ double GridSum::simpsonOfSamples(double lo, double hi, std::int64_t n) const {
 Integral GridSum::integral(double lo, double hi) const {
     const double span = hi - lo;
     const bool isNear = std::fabs(lo) <= kFarthestLimitDeg && std::fabs(hi) <= kFarthestLimitDeg;
-    const bool isSized = unit_.b() * longer_ >= kLeastHalfAxis && longer_ <= kGreatestHalfAxis;
-    if (!(unit_.b() >= kThinnestPasses && span > kShortestRangeDeg && isNear && isSized)) {
+    const bool isLong = span > kShortestRangeDeg;
+    if (!(unit_.b() >= kThinnestPasses && isLong && isNear && isSized())) {
         return {Refinement::undecided};
     }
     const SimpsonPasses passes(unit_, lo - endDeg_, hi - endDeg_);

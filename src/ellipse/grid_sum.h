@@ -19,11 +19,20 @@ class GridSum {
   public:
     GridSum(EllipseSpeed speed, double halfFirst, double halfSecond);
 
-    /// Whether a range is short enough to be summed; a NaN is not.
-    bool takes(double spanDeg) const {
+    const UnitSpeed &unit() const { return unit_; }
+    double scale() const { return scale_; }
+    /// An end of the longer axis.
+    double endDeg() const { return endDeg_; }
+    /// Whether the half axes have squares that neither over- nor underflow.
+    bool isSized() const;
+    double highest() const { return unit_.kind() == EllipseSpeed::arc ? scale_ : scale_ * 0.5; }
+
+    double longestDeg() const {
         const bool isThin = !(unit_.b() * kThinRatio >= 1.0);
-        return spanDeg <= (isThin ? kLongestThinRangeDeg : kLongestRangeDeg);
+        return isThin ? kLongestThinRangeDeg : kLongestRangeDeg;
     }
+    /// Whether a range is short enough to be summed; a NaN is not.
+    bool takes(double spanDeg) const { return spanDeg <= longestDeg(); }
     /// The integral over [lo, hi] degrees that the plain steps reach: see refine(). `undecided`,
     /// too, where it is none for passes without samples.
     Integral integral(double lo, double hi) const;

@@ -19,7 +19,7 @@ constexpr int kMostTerms = 40;
 
 TipWaves::TipWaves(const UnitSpeed &speed, double lo, double hi, bool isPeriodic)
     : speed_(speed), lo_(lo), firstTip_(180.0 * std::floor(lo / 180.0) + 180.0) {
-    tips_ = isPeriodic ? static_cast<int>((hi - lo) / 180.0 + 0.5)
+    tips_ = isPeriodic ? static_cast<int>((hi - lo) / 180.0)
                        : static_cast<int>(std::ceil((hi - firstTip_) / 180.0));
 }
 

@@ -107,21 +107,31 @@ double secondIntegral(double m, double x, double y, double z) {
     return sum / (m * std::sqrt(m));
 }
 
-/// Two of a kind, so that they are computed side by side.
-using Pair = std::array<double, 2>;
+template <std::size_t N>
+std::array<double, N> flatLengths(const std::array<double, N> &cosines,
+                                  const std::array<double, N> &sines) {
+    std::array<double, N> length;
+    for (std::size_t i = 0; i < N; ++i) {
+        length[i] = sines[i] * sines[i] / (1.0 + cosines[i]);
+    }
+    return length;
+}
 
-/// The lengths from an end of the longer axis to two angles of the first quadrant. Each is,
-/// without a difference,
+/// The lengths from an end of the longer axis to N angles of the first quadrant, side by side. Each
+/// is, without a difference,
 ///     s b^2 R_F + (1 - b^2) b^2 / 3 s^3 R_D
 /// at (b^2 c^2, f^2, b^2), f being the root at the angle. A duplication brings the arguments four
 /// times nearer to one another; the expansions leave out the eighth power of their distance.
-Pair lengthsFromEnd(double b, const Pair &cosines, const Pair &sines) {
+template <std::size_t N>
+std::array<double, N> lengthsFromEnd(double b, const std::array<double, N> &cosines,
+                                     const std::array<double, N> &sines) {
+    if (b < kFlatAxis) return flatLengths(cosines, sines);
     constexpr double kClose = 0.02;
     constexpr int kMostDuplications = 60;
     const double b2 = b * b;
     const double focal2 = (1.0 - b) * (1.0 + b);
-    Pair x, y, z, sum = {0.0, 0.0};
-    for (std::size_t i = 0; i < 2; ++i) {
+    std::array<double, N> x, y, z, sum = {};
+    for (std::size_t i = 0; i < N; ++i) {
         x[i] = b2 * (cosines[i] * cosines[i]);
         y[i] = b2 + focal2 * (sines[i] * sines[i]);
         z[i] = b2;
@@ -129,8 +139,8 @@ Pair lengthsFromEnd(double b, const Pair &cosines, const Pair &sines) {
     double part = 1.0;
     // x is the least and y the greatest of the three.
     const auto isWide = [&](std::size_t i) { return y[i] - x[i] > kClose * y[i]; };
-    for (int n = 0; n < kMostDuplications && (isWide(0) || isWide(1)); ++n) {
-        for (std::size_t i = 0; i < 2; ++i) {
+    for (int n = 0; n < kMostDuplications && (isWide(0) || isWide(N - 1)); ++n) {
+        for (std::size_t i = 0; i < N; ++i) {
             const double rx = std::sqrt(x[i]), ry = std::sqrt(y[i]), rz = std::sqrt(z[i]);
             const double shift = rx * ry + ry * rz + rz * rx;
             sum[i] += part / (rz * (z[i] + shift));
@@ -140,8 +150,8 @@ Pair lengthsFromEnd(double b, const Pair &cosines, const Pair &sines) {
         }
         part *= 0.25;
     }
-    Pair length;
-    for (std::size_t i = 0; i < 2; ++i) {
+    std::array<double, N> length;
+    for (std::size_t i = 0; i < N; ++i) {
         const double m = (x[i] + y[i] + z[i]) * (1.0 / 3.0);
         const double fx = 1.0 - x[i] / m, fy = 1.0 - y[i] / m;
         const double n = (x[i] + y[i] + 3.0 * z[i]) * 0.2;
@@ -180,6 +190,8 @@ double UnitSpeed::integralOfHalfTurn() const {
     return b_ < kFlatAxis ? 2.0 : 2.0 * quarterLength(b_);
 }
 
+double UnitSpeed::lengthTo(Rotation u) const { return lengthsFromEnd<1>(b_, {u.c}, {u.s})[0]; }
+
 /// Of a sector: the swept angle is that between (b cos, sin) at both ends, scaled.
 double UnitSpeed::integralBetween(const Offset &from, const Offset &to) const {
     std::int64_t halfTurns = to.halfTurns - from.halfTurns;
@@ -189,15 +201,8 @@ double UnitSpeed::integralBetween(const Offset &from, const Offset &to) const {
             std::atan2(b_ * (p.c * q.s - p.s * q.c), b_ * b_ * p.c * q.c + p.s * q.s);
         return 0.5 * b_ * (static_cast<double>(halfTurns) * kPi + swept);
     }
-    const Pair cosines = {from.turn.c, to.turn.c};
-    const Pair sines = {std::fabs(from.turn.s), std::fabs(to.turn.s)};
-    Pair length;
-    if (b_ < kFlatAxis) {
-        length = {sines[0] * sines[0] / (1.0 + cosines[0]),
-                  sines[1] * sines[1] / (1.0 + cosines[1])};
-    } else {
-        length = lengthsFromEnd(b_, cosines, sines);
-    }
+    const auto length = lengthsFromEnd<2>(b_, {from.turn.c, to.turn.c},
+                                          {std::fabs(from.turn.s), std::fabs(to.turn.s)});
     const double part = std::copysign(length[1], to.turn.s) - std::copysign(length[0], from.turn.s);
     if (halfTurns == 0) return part;
     return static_cast<double>(halfTurns) * integralOfHalfTurn() + part;

@@ -40,6 +40,8 @@ class UnitSpeed {
     OddDerivatives derivatives(Rotation u) const;
     double integralBetween(const Offset &from, const Offset &to) const;
     double integralOfHalfTurn() const;
+    /// Of the arc's speed, from an end of the longer axis to an angle of the first quadrant.
+    double lengthTo(Rotation u) const;
 
   private:
     EllipseSpeed kind_;
