@@ -3,11 +3,12 @@
 #include "ellipse/line_ellipse.h"
 
 #include "base/doubled.h"
-#include "ellipse/convert.h"
-
-namespace planegeo {
+#include "base/settings.h"
+#include "ellipse/parameter_range.h"
 
 namespace {
+
+using namespace planegeo;
 
 /// cross(u, w) of the unit vector u = d / length: to an ulp even where w is much longer than the
 /// cross product, unless coordinates beyond 1e150 overflow.
@@ -16,22 +17,40 @@ double crossWithUnit(Vec2 d, double length, Vec2 w) {
     return std::isfinite(product) ? product / length : cross(d / length, w);
 }
 
-} // namespace
+/// Up to two points of a line and an ellipse, by stretching the plane across the first axis so that
+/// the ellipse becomes a circle. They are seen from the centre: far from the origin the plane's
+/// coordinates would round them.
+struct StretchedCrossing {
+    bool isRefused;
+    std::uint32_t count;
+    double stretch;
+    Vec2 first; ///< in the stretched frame, on the line's start side
+    Vec2 second;
 
-std::optional<LineCrossing> crossLineEllipse(const Segment &line, const EllipseFrame &ellipse,
-                                             double tolerance) {
+    /// Where a point lies in the plane, seen from the centre.
+    Vec2 offset(Vec2 stretched, const EllipseFrame &ellipse) const {
+        return ellipse.turn.apply({stretched.x, stretched.y / stretch});
+    }
+};
+
+/// The infinite line through two points; a zero axis is refused, and a line or its stretched
+/// direction shorter than the tolerance. Inlined always: handed over in memory, points would be
+/// read before they are written.
+[[gnu::always_inline]] inline StretchedCrossing
+crossLineEllipse(const Segment &line, const EllipseFrame &ellipse, double tolerance) {
+    constexpr StretchedCrossing kRefused = {true, 0, 0.0, {}, {}};
     const double r = ellipse.halfFirst;
-    if (r == 0.0 || ellipse.halfSecond == 0.0) return std::nullopt;
+    if (r == 0.0 || ellipse.halfSecond == 0.0) return kRefused;
     const Vec2 d = line.start - line.end;
     const double length = hypotLength(d);
-    if (tolerance > length) return std::nullopt;
+    if (tolerance > length) return kRefused;
 
     // The stretch (x, y) -> (x, k y) of the ellipse's frame makes it the circle of radius r.
     const double k = r / ellipse.halfSecond;
     const Vec2 u = ellipse.turn.undo(d / length);
     const Vec2 stretched = {u.x, u.y * k};
     const double stretch = hypotLength(stretched);
-    if (tolerance > stretch) return std::nullopt;
+    if (tolerance > stretch) return kRefused;
     const Vec2 v = stretched / stretch;
 
     // Signed distance from the circle's centre to the stretched line: cross(v, w'), w' from the
@@ -40,50 +59,31 @@ std::optional<LineCrossing> crossLineEllipse(const Segment &line, const EllipseF
     const double h = k * crossWithUnit(d, length, ellipse.center - line.start) / stretch;
     const double gap = std::fabs(h) - r;
     const Vec2 foot = leftNormal(v) * -h;
-    const auto unstretched = [&](Vec2 q) { return ellipse.turn.apply({q.x, q.y / k}); };
 
-    if (tolerance > std::fabs(gap)) return LineCrossing{1, {unstretched(foot)}};
-    if (!(gap <= tolerance)) return LineCrossing{};
+    if (tolerance > std::fabs(gap)) return {false, 1, k, foot, {}};
+    if (!(gap <= tolerance)) return {false, 0, k, {}, {}};
     const double root = std::sqrt(-gap * (r + std::fabs(h))); // r^2 - h^2
     const Vec2 half = v * (std::isfinite(root) ? root : 0.0);
-    return LineCrossing{2, {unstretched(foot + half), unstretched(foot - half)}};
+    return {false, 2, k, foot + half, foot - half};
 }
 
-} // namespace planegeo
+constexpr Vec2 kMissing = {0.0, 0.0};
 
-namespace {
-
-using namespace planegeo;
-
-void store(const LineCrossing &crossing, Vec2 center, DTPOINT *out1, DTPOINT *out2) {
-    constexpr Vec2 kMissing = {0.0, 0.0};
-    store(crossing.count > 0 ? crossing.points[0] + center : kMissing, out1);
-    store(crossing.count > 1 ? crossing.points[1] + center : kMissing, out2);
+[[gnu::always_inline]] inline void store(const StretchedCrossing &crossing,
+                                         const EllipseFrame &ellipse, DTPOINT *out1,
+                                         DTPOINT *out2) {
+    const auto place = [&](Vec2 p) { return crossing.offset(p, ellipse) + ellipse.center; };
+    store(crossing.count > 0 ? place(crossing.first) : kMissing, out1);
+    store(crossing.count > 1 ? place(crossing.second) : kMissing, out2);
 }
 
-/// What an elliptic arc, given by the parameters of its ends, keeps of the points. Directions of
-/// the ends snap to the axes of the ellipse, those of the points to the axes of the plane.
-LineCrossing keptOnArc(const LineCrossing &crossing, const EllipseFrame &ellipse,
-                       double rotationDeg, const double *ends) {
-    if (crossing.count == 0) return crossing;
-    const Vec2 start = ellipse.localAt(ends[0]), end = ellipse.localAt(ends[1]);
-    const auto exact = [start, end] {
-        return AngleRange::normalised(snappedDirectionRad(start) * kDegPerRad,
-                                      snappedDirectionRad(end) * kDegPerRad)
-            .range;
-    };
-    const auto holds = [](AngleRange range, double deg) {
-        return isOnArc(range.start, range.end, deg);
-    };
-    const CoarseRange coarse = CoarseRange::of(start, end);
-    LineCrossing kept;
-    for (std::uint32_t i = 0; i < crossing.count; ++i) {
-        const Vec2 point = crossing.points[i];
-        if (holdsSnappedDirection(point, rotationDeg, coarse, exact, holds)) {
-            kept.points[kept.count++] = point;
-        }
-    }
-    return kept;
+/// Whether an elliptic arc, given by the parameters of its ends, holds a point seen from the
+/// centre. Directions of the ends snap to the axes of the ellipse, those of the points to the axes
+/// of the plane.
+bool isOnSnappedArc(Vec2 offset, const EllipseFrame &ellipse, double rotationDeg, AngleRange ends) {
+    return isOnArc(snappedDirectionRad(ellipse.localAt(ends.start)) * kDegPerRad,
+                   snappedDirectionRad(ellipse.localAt(ends.end)) * kDegPerRad,
+                   snappedDirectionRad(offset) * kDegPerRad - rotationDeg);
 }
 
 } // namespace
@@ -94,9 +94,9 @@ int32_t a2d_CrsLE(const DTPOINT *p1, const DTPOINT *p2, const DTPOINT *center, d
                   double rot, DTPOINT *out1, DTPOINT *out2, uint32_t *count, double tol) {
     const EllipseFrame ellipse = EllipseFrame::of(load(center), a, b, rot);
     const auto crossing = crossLineEllipse(load(p1, p2), ellipse, tol);
-    *count = crossing ? crossing->count : 0;
-    if (!crossing) return 1;
-    store(*crossing, ellipse.center, out1, out2);
+    *count = crossing.count;
+    if (crossing.isRefused) return 1;
+    store(crossing, ellipse, out1, out2);
     return 0;
 }
 
@@ -104,9 +104,9 @@ int32_t a2d_insle(const DTPOINT *p1, const DTPOINT *p2, const DTPOINT *center, d
                   double rot, DTPOINT *out1, DTPOINT *out2, uint16_t *count) {
     const EllipseFrame ellipse = EllipseFrame::of(load(center), a, b, rot);
     const auto crossing = crossLineEllipse(load(p1, p2), ellipse, distanceTolerance());
-    *count = static_cast<uint16_t>(crossing ? crossing->count : 0);
-    if (!crossing) return -1;
-    store(*crossing, ellipse.center, out1, out2);
+    *count = static_cast<uint16_t>(crossing.count);
+    if (crossing.isRefused) return -1;
+    store(crossing, ellipse, out1, out2);
     return 0;
 }
 
@@ -123,12 +123,24 @@ int32_t a2d_insle2(const DTPOINT *p1, const DTPOINT *p2, const DTPOINT *center, 
 int32_t a2d_insl1(const DTPOINT *p1, const DTPOINT *p2, const DTPOINT *center, double a, double b,
                   double rot, const double *angles, DTPOINT *out1, DTPOINT *out2, uint16_t *count) {
     const EllipseFrame ellipse = EllipseFrame::of(load(center), a, b, rot);
+    const AngleRange ends = {angles[0], angles[1]};
     const auto crossing = crossLineEllipse(load(p1, p2), ellipse, distanceTolerance());
     *count = 0;
-    if (!crossing) return -1;
-    const LineCrossing kept = keptOnArc(*crossing, ellipse, rot, angles);
-    *count = static_cast<uint16_t>(kept.count);
-    store(kept, ellipse.center, out1, out2);
+    if (crossing.isRefused) return -1;
+
+    const ParameterRange arc(ellipse, rot, ends);
+    const auto holds = [&](Vec2 stretched, Vec2 offset) {
+        const auto told = isSnapped(offset) ? std::nullopt : arc.holds(stretched);
+        return told ? *told : isOnSnappedArc(offset, ellipse, rot, ends);
+    };
+    const Vec2 first = crossing.offset(crossing.first, ellipse),
+               second = crossing.offset(crossing.second, ellipse);
+    const bool hasFirst = crossing.count > 0 && holds(crossing.first, first);
+    const bool hasSecond = crossing.count > 1 && holds(crossing.second, second);
+    *count = static_cast<uint16_t>((hasFirst ? 1 : 0) + (hasSecond ? 1 : 0));
+    const Vec2 kept = hasFirst ? first : second;
+    store(hasFirst || hasSecond ? kept + ellipse.center : kMissing, out1);
+    store(hasFirst && hasSecond ? second + ellipse.center : kMissing, out2);
     return 0;
 }
 

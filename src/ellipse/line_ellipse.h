@@ -3,7 +3,6 @@
 
 #include <optional>
 
-#include "ellipse/frame.h"
 #include "line/segment.h"
 
 namespace planegeo {
@@ -13,13 +12,6 @@ struct LineCrossing {
     std::uint32_t count = 0;
     Vec2 points[2] = {};
 };
-
-/// The infinite line through two points against an ellipse, by stretching the plane across the
-/// first axis so that the ellipse becomes a circle. The points are seen from the ellipse's centre:
-/// far from the origin the plane's coordinates would round them. The first lies on the line's start
-/// side. Nothing for a zero axis, or a line or its stretched direction shorter than the tolerance.
-std::optional<LineCrossing> crossLineEllipse(const Segment &line, const EllipseFrame &ellipse,
-                                             double tolerance);
 
 /// The ellipse centred at the origin with its first axis along x: x^2 / A^2 + y^2 / B^2 = 1.
 struct StandardEllipse {

@@ -4,6 +4,7 @@
 #include "base/settings.h"
 #include "base/tolerance.h"
 #include "circle/circle_circle.h"
+#include "ellipse/frame.h"
 #include "ellipse/implicit.h"
 #include "ellipse/line_ellipse.h"
 
