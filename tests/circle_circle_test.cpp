@@ -130,6 +130,7 @@ TEST(CrossArcs, keepsThePointsOnBothRanges) {
         {"0.0002 before the start", {up + 0.0002, 90}, {0, 360}, {}},
         {"across 0 up to the point", {300, up}, {0, 360}, {{4, -3}, {4, 3}}},
         {"across 0 but short of it", {300, up - 0.5}, {0, 360}, {{4, -3}}},
+        {"an end two slacks before the start", {2e-4, 0}, {0, 360}, {}},
         {"a whole turn far below 0", {-1000, -640}, {0, 360}, {{4, -3}, {4, 3}}},
         {"-720 to -630 is raised twice, to 0 to 90", {-720, -630}, {0, 360}, {{4, 3}}},
     };
@@ -169,7 +170,7 @@ TEST(CrossArcs, touchWithinErrdistFromTheLargerCircle) {
         double r2;
         std::vector<DTPOINT> want;
     } const cases[] = {
-        {"0.5e-6 apart", 2, {3 + 0.5e-6, 0}, 1, {{2, 0}}},
+        {"0.5e-6 apart, equal: from the first", 2, {4 + 0.5e-6, 0}, 2, {{2, 0}}},
         {"0.5e-6 apart, the other larger", 1, {0, 3 + 0.5e-6}, 2, {{0, 1 + 0.5e-6}}},
         {"2e-6 apart", 2, {3 + 2e-6, 0}, 1, {}},
         {"0.5e-6 within", 2, {1 - 0.5e-6, 0}, 1, {{2, 0}}},
