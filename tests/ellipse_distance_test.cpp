@@ -25,11 +25,9 @@ Answer ask(Function f, const DTELLIPSE &e, DTPOINT p) {
 DTELLIPSE anyEllipse(Random &random) {
     const double size = random.logUniform(1e-3, 1e5);
     const double ratios[] = {1.0, 1.0 + random.logUniform(1e-9, 1.0), random.logUniform(1, 1e6)};
-    DTELLIPSE e = {0, 0, 0, size, size / ratios[random.bits() % 3], 0, 360, random.angleDeg()};
+    const DTPOINT o = random.point(size);
+    DTELLIPSE e = {0, o.x, o.y, size, size / ratios[random.bits() % 3], 0, 360, random.angleDeg()};
     if (random.bits() % 2) std::swap(e.a, e.b);
-    const DTPOINT center = random.point(size);
-    e.cx = center.x;
-    e.cy = center.y;
     return e;
 }
 
@@ -75,8 +73,7 @@ TEST(SampledDistance, isThatOfThePlainSteps) {
             e.end = random.uniform(-400, 800);
         }
         if (random.bits() % 3 == 0) {
-            e.start = std::floor(e.start);
-            e.end = std::floor(e.end);
+            e.start = std::floor(e.start), e.end = std::floor(e.end);
         }
         const double a = e.a / 2, b = e.b / 2, t = random.angleDeg() * kRadPerDeg;
         const double evolute = (a - b) * (a + b), share = random.logUniform(1e-12, 10);

@@ -60,7 +60,7 @@ TEST(NearestFoot, bySituation) {
         DTPOINT p;
         std::vector<DTPOINT> want;
         double distance;
-    } const cases[] = {
+    } cases[] = {
         {"centre", {0, 0}, {{0, 3}, {0, -3}}, 3},
         {"within errdist of it", {4e-7, 4e-7}, {{0, 3}, {0, -3}}, 3},
         {"second axis", {0, -0.2}, {{0, -3}}, 2.8},
@@ -69,17 +69,16 @@ TEST(NearestFoot, bySituation) {
         {"first axis, beyond it", {-3.3, 0}, {{-5, 0}}, 1.7},
         {"first axis, outside", {9, 5e-7}, {{5, 0}}, 4},
     };
-    for (const auto &c : cases) {
+    for (auto &c : cases) {
         SCOPED_TRACE(c.about);
         const Answer got = nearest(kEllipse, placed(kEllipse, c.p));
         EXPECT_EQ(got.result, static_cast<int32_t>(c.want.size()));
         EXPECT_NEAR(got.distance, c.distance, 20 * kEpsilon);
-        std::vector<DTPOINT> want;
-        for (const DTPOINT &p : c.want) {
-            want.push_back(placed(kEllipse, p));
+        for (DTPOINT &p : c.want) {
+            p = placed(kEllipse, p);
         }
-        if (want.size() == 1) want.push_back({0, 0});
-        expectPoints(got, want, kUntouchedPoint);
+        if (c.want.size() == 1) c.want.push_back({0, 0});
+        expectPoints(got, c.want, kUntouchedPoint);
     }
 }
 
@@ -89,22 +88,21 @@ TEST(AllFeet, onTheAxesInOrder) {
         const char *about;
         DTPOINT p;
         std::vector<DTPOINT> want;
-    } const cases[] = {
+    } cases[] = {
         {"centre", {0, 0}, {{5, 0}, {0, 3}, {-5, 0}, {0, -3}}},
         {"second axis inside", {0, 4.0 / 3}, {{0, 3}, {0, -3}, {x, -0.75}, {-x, -0.75}}},
         {"second axis at the evolute's cusp", {0, 16.0 / 3}, {{0, 3}, {0, -3}}},
         {"first axis inside", {-0.8, 0}, {{5, 0}, {-5, 0}, {-1.25, y}, {-1.25, -y}}},
         {"first axis at the evolute's cusp", {3.2, 0}, {{5, 0}, {-5, 0}}},
     };
-    for (const auto &c : cases) {
+    for (auto &c : cases) {
         SCOPED_TRACE(c.about);
         const Answer got = all(kEllipse, placed(kEllipse, c.p));
         EXPECT_EQ(got.result, static_cast<int32_t>(c.want.size()));
-        std::vector<DTPOINT> want;
-        for (const DTPOINT &p : c.want) {
-            want.push_back(placed(kEllipse, p));
+        for (DTPOINT &p : c.want) {
+            p = placed(kEllipse, p);
         }
-        expectPoints(got, want, {0, 0});
+        expectPoints(got, c.want, {0, 0});
     }
     const DTELLIPSE exact = {0, 0, 0, 10, 6, 0, 360, 0};
     EXPECT_EQ(all(exact, {3.2, 0}).result, 2) << "the cusp itself";
@@ -160,10 +158,8 @@ TEST(AllFeet, ofGeneralPoints) {
         const double size = random.logUniform(1e-2, 1e5);
         const double thickness =
             i % 3 ? random.uniform(0.1, 0.98) : 1 - random.logUniform(1e-4, 0.1);
-        DTELLIPSE e = {0, 0, 0, size, size * thickness, 0, 0, random.angleDeg()};
-        const DTPOINT center = random.point(size);
-        e.cx = center.x;
-        e.cy = center.y;
+        const DTPOINT o = random.point(size);
+        const DTELLIPSE e = {0, o.x, o.y, size, size * thickness, 0, 0, random.angleDeg()};
         const double a = e.a / 2, b = e.b / 2, evolute = (a - b) * (a + b), t = random.angleDeg();
         const double out = random.logUniform(1e-3, 1e3) * (i % 2 ? 1 : -1); // of the evolute
         const double scale = out > 0 ? 1 + out : 1 / (1 - out);
@@ -208,15 +204,13 @@ TEST(FeetOnArc, keepsTheirOrder) {
     for (const auto &c : cases) {
         SCOPED_TRACE(c.about);
         DTELLIPSE e = kEllipse;
-        e.start = c.start;
-        e.end = c.end;
+        e.start = c.start, e.end = c.end;
         const DTPOINT p = {e.cx, e.cy};
         Answer got{};
         got.result = a2dEllpsArcPerPnts(&p, &e, got.out);
         std::vector<DTPOINT> want;
-        for (const double deg : c.wantDeg) {
+        for (const double deg : c.wantDeg)
             want.push_back(at(e, deg));
-        }
         EXPECT_EQ(got.result, static_cast<int32_t>(want.size()));
         expectPoints(got, want, kUntouchedPoint);
         // The same with its fall-back, the nearest sample: here the start of the arc.
@@ -255,8 +249,7 @@ TEST(FeetOrFallBack, circlesRefusalsAndPointsOnTheArc) {
 
     // Without a foot on the arc: a point within errdist of it stands for itself.
     DTELLIPSE e = kEllipse;
-    e.start = 10;
-    e.end = 30;
+    e.start = 10, e.end = 30;
     const DTPOINT beside = at(e, 30 + 5e-6); // 4e-7 beyond the end
     EXPECT_EQ(counted(a2d_PerEP2, e, beside).out[0], beside);
     EXPECT_EQ(counted(a2d_PerEP, {0, 0, 0, kNaN, 1, 10, 30, 0}, beside).count, 1U);

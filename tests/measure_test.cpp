@@ -35,30 +35,18 @@ PLANEGEO_INTEGRAND failingAt(double where, int32_t code) {
     return probed;
 }
 
-/// Stores half axes in the parameter table for a scope.
-class HalfAxes {
-  public:
-    HalfAxes(double first, double second) {
-        ca_Simpson_getParmtbl()[0] = first;
-        ca_Simpson_getParmtbl()[1] = second;
-    }
-    ~HalfAxes() { ca_Simpson_getParmtbl()[0] = ca_Simpson_getParmtbl()[1] = 0.0; }
-    HalfAxes(const HalfAxes &) = delete;
-    HalfAxes &operator=(const HalfAxes &) = delete;
-};
-
 DTELLIPSE arc(double a, double b, double start, double end) {
     return {0, 3.0, -2.0, a, b, start, end, 25.0};
 }
 double measured(const DTELLIPSE &e) {
-    const HalfAxes axes(e.a / 2, e.b / 2);
+    const HalfAxesGuard axes(e.a / 2, e.b / 2);
     double length = kUntouched;
     EXPECT_EQ(ca_ElpLen(&e, &length), 0);
     return length;
 }
 
 TEST(Integrand, speedAndSector) {
-    const HalfAxes axes(3.0, 2.0);
+    const HalfAxesGuard axes(3.0, 2.0);
     double value = kUntouched;
     EXPECT_EQ(ca_lengelp(0.0, &value), 0);
     EXPECT_DOUBLE_EQ(value, 2.0) << "at the first axis the point moves along the second";
@@ -111,11 +99,8 @@ TEST(Simpson, counts) {
         SCOPED_TRACE(c.about);
         double result = kUntouched;
         EXPECT_EQ(ca_Simpson(answering(c.value), c.lo, c.hi, &result), c.code);
-        if (std::isnan(c.result)) {
-            EXPECT_TRUE(std::isnan(result));
-        } else {
-            EXPECT_NEAR(result, c.result, 1e-12 * c.result);
-        }
+        EXPECT_TRUE(std::isnan(c.result) ? std::isnan(result)
+                                         : std::fabs(result - c.result) <= 1e-12 * c.result);
         EXPECT_EQ(probe.count, c.calls);
     }
 }
@@ -132,7 +117,7 @@ TEST(Simpson, theIntegrandsCodeEndsIt) {
 }
 
 TEST(Simpson, knownIntegrals) {
-    const HalfAxes axes(5.0, 3.0);
+    const HalfAxesGuard axes(5.0, 3.0);
     double result;
     EXPECT_EQ(ca_Simpson(ca_lengelp, 0.0, 360.0, &result), 0);
     EXPECT_NEAR(result, 4.0 * 5.0 * std::comp_ellint_2(0.8), 1e-6);
@@ -150,10 +135,10 @@ TEST(Simpson, knownIntegrals) {
 TEST(Simpson, ownIntegrandsHaveALongestRange) {
     double result;
     for (const PLANEGEO_INTEGRAND own : {ca_lengelp, ca_AreaElp}) {
-        const HalfAxes round(4.0, 1.0);
+        const HalfAxesGuard round(4.0, 1.0);
         EXPECT_EQ(ca_Simpson(own, 0.0, 36000.0, &result), 0);
         EXPECT_EQ(ca_Simpson(own, 0.0, 36001.0, &result), -2);
-        const HalfAxes thin(1.0, 4.1);
+        const HalfAxesGuard thin(1.0, 4.1);
         EXPECT_EQ(ca_Simpson(own, 0.0, 1440.0, &result), 0);
         EXPECT_EQ(ca_Simpson(own, 0.0, 1441.0, &result), -2);
         EXPECT_EQ(result, 0.0);
@@ -163,7 +148,7 @@ TEST(Simpson, ownIntegrandsHaveALongestRange) {
 // Without a second axis the speed has no series, nor with one that is lost beside the first.
 TEST(Simpson, samplesTheLibrarysIntegrandsOverAFewTurnsOnly) {
     for (const double second : {0.0, 1e-18}) {
-        const HalfAxes axes(100.0, second);
+        const HalfAxesGuard axes(100.0, second);
         double result = kUntouched;
         EXPECT_EQ(ca_Simpson(ca_lengelp, -256.0, 256.0, &result), 0);
         EXPECT_NEAR(result, 400.0 + 200.0 * (1.0 - std::cos(76.0 * kRadPerDeg)), 1e-5);
@@ -177,7 +162,7 @@ TEST(Simpson, samplesTheLibrarysIntegrandsOverAFewTurnsOnly) {
 
 // Axes whose lengths are too long for the series to tell them to 1e-6.
 TEST(Simpson2, givesUpALongWalkOfFineRangesOnly) {
-    const HalfAxes axes(137.0, 450.0);
+    const HalfAxesGuard axes(137.0, 450.0);
     double lo = 0.0, hi = 36000.0;
     EXPECT_EQ(ca_Simpson2(ca_lengelp, &lo, &hi, 1.0, 1), -1);
     EXPECT_EQ(hi, 36000.0);
@@ -225,12 +210,8 @@ TEST(LimitSearch, movesOneEnd) {
         const bool found = c.code != -1;
         const double wantLo = found && c.which == 0 ? c.limit : c.lo;
         const double wantHi = found && c.which != 0 ? c.limit : c.hi;
-        if (std::isinf(wantHi)) {
-            EXPECT_EQ(hi, wantHi);
-        } else {
-            EXPECT_NEAR(lo, wantLo, 1e-6);
-            EXPECT_NEAR(hi, wantHi, 1e-6);
-        }
+        EXPECT_NEAR(lo, wantLo, 1e-6);
+        EXPECT_TRUE(hi == wantHi || std::fabs(hi - wantHi) <= 1e-6) << hi;
         EXPECT_TRUE(hi == c.hi || (found && c.which != 0));
         EXPECT_TRUE(lo == c.lo || (found && c.which == 0));
     }
@@ -249,12 +230,12 @@ TEST(LimitSearch, aLengthOutOfReachEnds) {
     for (const Case &c :
          {Case{one, 0.0, kInfinity}, Case{one, 0.0, 1e12}, Case{ca_lengelp, 1.0, 1e12},
           Case{ca_lengelp, 1e-3, 5.0}, Case{ca_AreaElp, 1e-3, 1.0}, Case{ca_lengelp, 0.0, 1.0}}) {
-        const HalfAxes axes(c.axes, 0.5 * c.axes);
+        const HalfAxesGuard axes(c.axes, 0.5 * c.axes);
         double lo = 0.0, hi = 30.0;
         EXPECT_EQ(ca_Simpson2(c.integrand, &lo, &hi, c.wanted, 1), -1);
         EXPECT_EQ(hi, 30.0);
     }
-    const HalfAxes axes(1.0, 1.0); // within reach, thirty turns away
+    const HalfAxesGuard axes(1.0, 1.0); // within reach, thirty turns away
     double lo = 0.0, hi = 30.0;
     EXPECT_EQ(ca_Simpson2(ca_lengelp, &lo, &hi, 10800.0 * kRadPerDeg, 1), 0);
     EXPECT_NEAR(hi, 10800.0, 1e-6 / kRadPerDeg);
@@ -313,7 +294,7 @@ TEST(Length, aWholeTurnIsWrittenFromZero) {
 }
 
 TEST(LengthTo, movesAndNormalises) {
-    const HalfAxes axes(1.0, 1.0);
+    const HalfAxesGuard axes(1.0, 1.0);
     DTELLIPSE e = arc(2, 2, 0, 90);
     EXPECT_EQ(ca_ElpLen2(&e, kPi / 4, 1), 0);
     EXPECT_EQ(e.start, 0.0);

@@ -14,22 +14,14 @@ using namespace support;
 struct HalfAxes {
     double first, second;
 
-    double speed(double deg) const { return plain::speed(first, second, deg); }
+    plain::Integral length(double lo, double hi) const {
+        return plain::simpson([this](double t) { return plain::speed(first, second, t); }, lo, hi);
+    }
     double sector(double deg) const {
         const double c = std::cos(deg * kRadPerDeg), s = std::sin(deg * kRadPerDeg);
         const double aa = first * first, bb = second * second;
         return aa * bb * 0.5 / (bb * (c * c) + aa * (s * s));
     }
-    /// Stores them in the parameter table; the fixture takes them out.
-    void store() const {
-        ca_Simpson_getParmtbl()[0] = first;
-        ca_Simpson_getParmtbl()[1] = second;
-    }
-};
-
-class PlainAgreement : public ::testing::Test {
-  protected:
-    ~PlainAgreement() override { HalfAxes{0.0, 0.0}.store(); }
 };
 
 /// Axes of any size; most of them round, some thin, flat, negative or equal.
@@ -87,15 +79,15 @@ Result integrated(PLANEGEO_INTEGRAND integrand, Range r) {
     return result;
 }
 
-TEST_F(PlainAgreement, lengthsAndAreas) {
+TEST(PlainAgreement, lengthsAndAreas) {
     Random random(7001);
     for (int i = 0; i < 1500; ++i) {
         const HalfAxes half = axes(random, i % 50 == 0 ? 1e6 : 6.0);
         const Range r = range(random);
         SCOPED_TRACE(testing::Message()
                      << half.first << " " << half.second << " over " << r.lo << " " << r.hi);
-        half.store();
-        const auto length = plain::simpson([&](double t) { return half.speed(t); }, r.lo, r.hi);
+        const HalfAxesGuard stored(half.first, half.second);
+        const auto length = half.length(r.lo, r.hi);
         const Result got = integrated(ca_lengelp, r);
         EXPECT_EQ(got.code, length.code);
         EXPECT_TRUE(agree(got.value, length.value));
@@ -111,7 +103,7 @@ TEST_F(PlainAgreement, lengthsAndAreas) {
 
 /// Sizes the ellipse so that its second pass differs from the first by almost exactly the 1e-6
 /// that settle it. There the passes decide by their rounding, which only the samples have.
-TEST_F(PlainAgreement, wherePassesBarelySettle) {
+TEST(PlainAgreement, wherePassesBarelySettle) {
     Random random(7002);
     for (int i = 0; i < 400; ++i) {
         const double ratio = random.logUniform(1.3, 4.0), lo = random.angleDeg();
@@ -126,36 +118,35 @@ TEST_F(PlainAgreement, wherePassesBarelySettle) {
         const double size = 1e-6 / change * (1.0 + random.uniform(-1, 1) * std::pow(10, -(i % 12)));
         if (!(size < 1e7)) continue;
         const HalfAxes half = {size, size * ratio};
-        half.store();
-        const auto want = plain::simpson([&](double t) { return half.speed(t); }, r.lo, r.hi);
+        const HalfAxesGuard stored(half.first, half.second);
+        const auto want = half.length(r.lo, r.hi);
         EXPECT_TRUE(agree(integrated(ca_lengelp, r).value, want.value)) << want.passes;
     }
 }
 
-TEST_F(PlainAgreement, whereAFirstSumIsBarelyAccepted) {
+TEST(PlainAgreement, whereAFirstSumIsBarelyAccepted) {
     Random random(7003);
     for (int i = 0; i < 400; ++i) {
         const double ratio = random.logUniform(1.0, 4.0), size = random.logUniform(1e-9, 1e-5);
         const double span = 1e-6 / size / kRadPerDeg * random.uniform(0.2, 1.2);
         if (span > 400.0) continue;
         const HalfAxes half = {size, size * ratio};
-        half.store();
-        const auto want = plain::simpson([&](double t) { return half.speed(t); }, 10, 10 + span);
+        const HalfAxesGuard stored(half.first, half.second);
+        const auto want = half.length(10, 10 + span);
         EXPECT_TRUE(agree(integrated(ca_lengelp, {10, 10 + span}).value, want.value));
     }
 }
 
 /// A search over the library's integrand moves exactly as one over its samples.
-TEST_F(PlainAgreement, searches) {
+TEST(PlainAgreement, searches) {
     Random random(7004);
     for (int i = 0; i < 300; ++i) {
         const double a = random.logUniform(0.01, 1e4);
         const HalfAxes half = {a, a * (i % 60 == 7 ? 1e-3 : random.logUniform(0.2, 5.0))};
-        half.store();
+        const HalfAxesGuard stored(half.first, half.second);
         const double start = random.uniform(-100, 300);
         DTELLIPSE got = {0, 3, 4, 1, 1, start, start + random.uniform(1, 360), 30};
-        const auto speed = [&](double t) { return half.speed(t); };
-        const double length = plain::simpson(speed, got.start, got.end).value;
+        const double length = half.length(got.start, got.end).value;
         const double wanted[] = {
             length * random.uniform(0.02, 2.0),   // anywhere
             length + random.uniform(-3e-6, 3e-6), // there, or almost
@@ -178,13 +169,13 @@ int32_t hostsSpeed(double deg, double *value) {
     return ca_lengelp(deg, value);
 }
 
-TEST_F(PlainAgreement, aHostsIntegrandIsSampled) {
+TEST(PlainAgreement, aHostsIntegrandIsSampled) {
     Random random(7005);
     for (int i = 0; i < 200; ++i) {
         const HalfAxes half = axes(random, 6.0);
         const Range r = range(random);
-        half.store();
-        const auto want = plain::simpson([&](double t) { return half.speed(t); }, r.lo, r.hi);
+        const HalfAxesGuard stored(half.first, half.second);
+        const auto want = half.length(r.lo, r.hi);
         calls = 0;
         EXPECT_EQ(integrated(hostsSpeed, r).value, want.value) << "bit by bit";
         const auto n = static_cast<std::size_t>(plain::evenCount(r.hi - r.lo));
@@ -195,7 +186,7 @@ TEST_F(PlainAgreement, aHostsIntegrandIsSampled) {
 
 /// The tables of a2d_elpdn: every entry is that of the plain walk, unless the walk's own quotient
 /// there is a whole number to within its rounding (half an ulp for each of its additions).
-TEST_F(PlainAgreement, divisionTables) {
+TEST(PlainAgreement, divisionTables) {
     Random random(7006);
     for (int i = 0; i < 120; ++i) {
         const HalfAxes half = axes(random, i % 5 == 0 ? 1e3 : 8.0);
@@ -226,7 +217,7 @@ TEST_F(PlainAgreement, divisionTables) {
 }
 
 /// Samples are found by adding degree after degree, and one more or less changes every piece.
-TEST_F(PlainAgreement, samplesOfAPolyline) {
+TEST(PlainAgreement, samplesOfAPolyline) {
     std::vector<Range> ranges = {{-100.0, -1e-20}, {1e5 + 0.1, 1e5 + 60.1}, {30.5, 390.5}};
     Random random(7008);
     for (int i = 0; i < 300; ++i) {
@@ -242,7 +233,7 @@ TEST_F(PlainAgreement, samplesOfAPolyline) {
     }
 }
 
-TEST_F(PlainAgreement, polylines) {
+TEST(PlainAgreement, polylines) {
     Random random(7007);
     for (int i = 0; i < 4000; ++i) {
         const HalfAxes half = axes(random, i % 10 == 0 ? 1e3 : 5.0);

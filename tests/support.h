@@ -99,6 +99,21 @@ class StartendGuard {
     std::int32_t before_;
 };
 
+/// Stores half axes in the parameter table for a scope.
+class HalfAxesGuard {
+  public:
+    HalfAxesGuard(double first, double second) { store(first, second); }
+    ~HalfAxesGuard() { store(0.0, 0.0); }
+    HalfAxesGuard(const HalfAxesGuard &) = delete;
+    HalfAxesGuard &operator=(const HalfAxesGuard &) = delete;
+
+  private:
+    static void store(double first, double second) {
+        ca_Simpson_getParmtbl()[0] = first;
+        ca_Simpson_getParmtbl()[1] = second;
+    }
+};
+
 /// The same numbers on every platform, which the standard distributions do not promise.
 class Random {
   public:

@@ -20,30 +20,30 @@ struct Point {
     double x, y;
 };
 
+std::string entity(const char *kind, const std::vector<std::pair<int, double>> &groups) {
+    std::ostringstream text;
+    text.precision(17);
+    text << "0 " << kind << "|8 0";
+    for (const auto &[code, value] : groups)
+        text << "|" << code << " " << value;
+    return text.str();
+}
 std::string line(double x1, double y1, double x2, double y2) {
-    return "0 LINE|8 0|10 " + std::to_string(x1) + "|20 " + std::to_string(y1) + "|11 " +
-           std::to_string(x2) + "|21 " + std::to_string(y2);
+    return entity("LINE", {{10, x1}, {20, y1}, {11, x2}, {21, y2}});
 }
-
 std::string arc(double x, double y, double r, double start, double end) {
-    return "0 ARC|8 0|10 " + std::to_string(x) + "|20 " + std::to_string(y) + "|40 " +
-           std::to_string(r) + "|50 " + std::to_string(start) + "|51 " + std::to_string(end);
+    return entity("ARC", {{10, x}, {20, y}, {40, r}, {50, start}, {51, end}});
 }
-
 std::string circle(double x, double y, double r) {
-    return "0 CIRCLE|8 0|10 " + std::to_string(x) + "|20 " + std::to_string(y) + "|40 " +
-           std::to_string(r);
+    return entity("CIRCLE", {{10, x}, {20, y}, {40, r}});
 }
-
 /// The first half axis lies along x; the range is told in turns.
 std::string ellipse(double x, double y, double first, double second, double from = 0,
                     double to = 1) {
-    const double turn = 6.283185307179586;
-    std::ostringstream text;
-    text.precision(17);
-    text << "0 ELLIPSE|8 0|10 " << x << "|20 " << y << "|11 " << first << "|21 0|40 "
-         << second / first << "|41 " << from * turn << "|42 " << to * turn;
-    return text.str();
+    const double turn = 6.283185307179586, ratio = second / first;
+    return entity(
+        "ELLIPSE",
+        {{10, x}, {20, y}, {11, first}, {21, 0}, {40, ratio}, {41, from * turn}, {42, to * turn}});
 }
 
 struct Case {
