@@ -89,6 +89,8 @@ TEST(CircleEllipse, OrderIsThatOfTheQuartic) {
     EXPECT_EQ(places(cross({0.3, 1e-10, 3, 1, 2})), (Places{2, 3, 0, 1})) << "not ignored";
     EXPECT_EQ(places(cross({6, 0, 5, 5 - 0.5e-6, 5})), (Places{1, 0})) << "as circles: right first";
     EXPECT_EQ(places(cross({6, 0, 5, 5 - 2e-6, 5})), (Places{0, 1}));
+    EXPECT_EQ(places(cross({-2.3433310276428587, 1.718691177507303, 4, 1, 2.5})), (Places{0, 2, 1}))
+        << "all but touching comes last";
     EXPECT_EQ(places(cross({3, 0.5, 2, 1, 2})), (Places{0, 1})) << "of two the upper first";
     EXPECT_EQ(places(cross({-3, -0.5, 2, 1, 2})), (Places{0, 1}));
 }

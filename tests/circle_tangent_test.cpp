@@ -1,6 +1,5 @@
 // Where tangents touch circles.
 
-#include <algorithm>
 #include <vector>
 
 #include "support.h"
@@ -13,18 +12,8 @@ constexpr DTPOINT kOrigin = {-4, 3};
 
 DTPOINT shifted(DTPOINT p) { return kOrigin + p; }
 
-struct Tangents {
-    int32_t status;
-    DTPOINT t[8];
-    uint16_t count = kUntouchedCount;
-};
-
 Tangents commonTangents(DTPOINT c1, double r1, DTPOINT c2, double r2) {
-    Tangents got;
-    std::fill_n(got.t, 8, kUntouchedPoint);
-    got.status = ca_cctan(&c1, r1, &c2, r2, got.t, got.t + 1, got.t + 2, got.t + 3, got.t + 4,
-                          got.t + 5, got.t + 6, got.t + 7, &got.count);
-    return got;
+    return tangentsOf([&](auto... outputs) { return ca_cctan(&c1, r1, &c2, r2, outputs...); });
 }
 
 } // namespace

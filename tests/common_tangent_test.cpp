@@ -1,29 +1,15 @@
 // The common tangents of two ellipses: how many, their order, that they touch.
 
-#include <algorithm>
-
 #include "support.h"
 
 using namespace support;
 
 namespace {
 
-struct Tangents {
-    int32_t status;
-    DTPOINT t[8];
-    uint16_t count = kUntouchedCount;
-
-    DTPOINT on1(int i) const { return t[static_cast<std::size_t>(i) * 2]; }
-    DTPOINT on2(int i) const { return t[static_cast<std::size_t>(i) * 2 + 1]; }
-};
-
 Tangents tangents(const Ellipse &e, const Ellipse &f) {
-    Tangents got;
-    DTPOINT *t = got.t;
-    std::fill_n(t, 8, kUntouchedPoint);
-    got.status = a2d_tch2e(&e.center, &f.center, e.a, f.a, e.b, f.b, e.rot, f.rot, t, t + 1, t + 2,
-                           t + 3, t + 4, t + 5, t + 6, t + 7, &got.count);
-    return got;
+    return tangentsOf([&](auto... outputs) {
+        return a2d_tch2e(&e.center, &f.center, e.a, f.a, e.b, f.b, e.rot, f.rot, outputs...);
+    });
 }
 
 /// By how much the line through two points misses touching an ellipse.
@@ -91,8 +77,8 @@ TEST(EllipseTangents, fourOuterOnesByTheirNormals) {
     const DTPOINT on1[] = {{-wide, -close}, {wide, -close}, {wide, close}, {-wide, close}};
     for (int i = 0; i < 4; ++i) {
         const DTPOINT on2 = {on1[i].x / 4, on1[i].y * 4};
-        EXPECT_TRUE(near(got.on1(i), first.placed(on1[i]), 20 * kEpsilon)) << i;
-        EXPECT_TRUE(near(got.on2(i), first.placed(on2), 20 * kEpsilon)) << i;
+        EXPECT_TRUE(near(got.t[2 * i], first.placed(on1[i]), 20 * kEpsilon)) << i;
+        EXPECT_TRUE(near(got.t[2 * i + 1], first.placed(on2), 20 * kEpsilon)) << i;
     }
 }
 
@@ -103,15 +89,14 @@ TEST(EllipseTangents, ofCirclesAreThoseOfCircles) {
         const double r1 = random.uniform(0.1, 5), r2 = i % 4 ? random.uniform(0.1, 5) : r1;
         const Tangents got = tangents({c1, 2 * r1, 2 * r1, random.angleDeg()},
                                       {c2, 2 * r2, 2 * r2, random.angleDeg()});
-        DTPOINT t[8];
-        uint16_t count;
-        ca_cctan(&c1, r1, &c2, r2, t, t + 1, t + 2, t + 3, t + 4, t + 5, t + 6, t + 7, &count);
-        ASSERT_EQ(got.count, count);
+        const Tangents want =
+            tangentsOf([&](auto... outputs) { return ca_cctan(&c1, r1, &c2, r2, outputs...); });
+        ASSERT_EQ(got.count, want.count);
         const double d = distance(c1, c2);
         // The contacts of circles that nearly touch turn by the root of a rounding.
         const double apart = std::fmin(std::fabs(d - r1 - r2), std::fabs(d - std::fabs(r1 - r2)));
-        for (int k = 0; k < 2 * count; ++k) {
-            ASSERT_TRUE(near(got.t[k], t[k], 100 * kEpsilon * 10 / std::sqrt(apart / 10)));
+        for (int k = 0; k < 2 * want.count; ++k) {
+            ASSERT_TRUE(near(got.t[k], want.t[k], 100 * kEpsilon * 10 / std::sqrt(apart / 10)));
         }
     }
 }
@@ -137,7 +122,7 @@ TEST(EllipseTangents, touchBoth) {
         ASSERT_TRUE(kind != 0 || got.count == 4);
         ASSERT_TRUE(kind != 1 || got.status == 2);
         for (int k = 0; k < got.count; ++k) {
-            const DTPOINT p = got.on1(k), q = got.on2(k);
+            const DTPOINT p = got.t[2 * k], q = got.t[2 * k + 1];
             const double coordinates = std::hypot(p.x, p.y) + std::hypot(q.x, q.y);
             // Some roundings of the points; along the line they make up for a short distance.
             const double within = 20 * kEpsilon * (coordinates + e.a + e.b + f.a + f.b);

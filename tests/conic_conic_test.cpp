@@ -148,19 +148,20 @@ TEST(TwoEllipticArcs, CodesAndOutputs) {
     };
     const Case cases[] = {
         {"same", &DTELLIPSE::a, 0, 1},
-        {"first axis within errdist", &DTELLIPSE::a, 0.9e-6, 1},
-        {"first axis beyond", &DTELLIPSE::a, 1.1e-6, 0},
-        {"second axis beyond", &DTELLIPSE::b, 1.1e-6, 0},
-        {"rotation within", &DTELLIPSE::rot, 0.9e-6, 1},
-        {"rotation beyond", &DTELLIPSE::rot, 1.1e-6, 0},
+        {"first axis within errdist", &DTELLIPSE::a, 0.24, 1},
+        {"first axis errdist apart", &DTELLIPSE::a, 0.25, 0},
+        {"second axis", &DTELLIPSE::b, 0.25, 0},
+        {"rotation within", &DTELLIPSE::rot, 0.24, 1},
+        {"rotation errdist apart", &DTELLIPSE::rot, 0.25, 0},
         {"half a turn further is not the same here", &DTELLIPSE::rot, 180, 0},
-        {"squared distance of the centres within errdist", &DTELLIPSE::cx, 0.9e-3, 1},
-        {"squared distance beyond", &DTELLIPSE::cx, 1.1e-3, 0},
+        {"squared distance of the centres not above errdist", &DTELLIPSE::cx, 0.5, 1},
+        {"squared distance beyond", &DTELLIPSE::cx, 0.51, 0},
         {"ranges do not count", &DTELLIPSE::start, 90, 1},
         {"second ellipse without an axis", &DTELLIPSE::b, -2, -1},
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.about);
+        const ToleranceGuard quarter(0.25);
         DTELLIPSE f = e;
         f.*c.field += c.by;
         const Answer got = cross(e, f);

@@ -28,7 +28,7 @@ double parameterDeg(const plain::Arc &arc, DTPOINT p) {
            kRadPerDeg;
 }
 
-const plain::Arc kArc = {kCenter, 10, 6, 30, 20, 250};
+const plain::Arc kArc = {kCenter, 10, 6, 30, 0, 250};
 
 TEST(KeptDivision, circle) {
     const plain::Arc circle = {kCenter, 2, 2, 0, 0, 360};
@@ -66,7 +66,7 @@ struct Step {
 
 TEST(KeptDivision, whatIsKept) {
     plain::Arc nudged = kArc, turned = kArc, moved = kArc, reversed = kArc, longer = kArc;
-    nudged.a += 0.5e-6, nudged.rot += 0.5e-8, nudged.center.x -= 0.5e-6, nudged.end += 0.5e-8;
+    nudged.a += 0.5e-6, nudged.rot += 0.5e-8, nudged.center.x -= 0.5e-6, nudged.start += 1e-8;
     turned.start += 2e-8;
     moved.b += 2e-6;
     longer.a += 2e-6;

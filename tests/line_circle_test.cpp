@@ -12,33 +12,27 @@ constexpr DTPOINT kCenter = {3, -2}; // off the origin, so that a forgotten shif
 
 DTPOINT shifted(DTPOINT p) { return kCenter + p; }
 
-struct Answer {
-    int32_t status;
-    DTPOINT out1 = kUntouchedPoint, out2 = kUntouchedPoint;
-    uint16_t count = kUntouchedCount;
-};
-
 /// Any of the functions that write two points and a count; the line is relative to the centre.
-template <class Call> Answer answer(DTPOINT a1, DTPOINT a2, Call call) {
-    Answer got;
+template <class Call> Crossing answer(DTPOINT a1, DTPOINT a2, Call call) {
+    Crossing got;
     a1 = shifted(a1), a2 = shifted(a2);
     got.status = call(&a1, &a2, &got.out1, &got.out2, &got.count);
     return got;
 }
 
-Answer lineArc(uint32_t mode, DTPOINT a1, DTPOINT a2, double r, const double *angles) {
+Crossing lineArc(uint32_t mode, DTPOINT a1, DTPOINT a2, double r, const double *angles) {
     return answer(a1, a2, [=](auto *p, auto *q, auto... outputs) {
         return a2d_lin_arc(mode, p, q, &kCenter, r, angles, outputs...);
     });
 }
 
-Answer lineCircle(DTPOINT a1, DTPOINT a2, double r) {
+Crossing lineCircle(DTPOINT a1, DTPOINT a2, double r) {
     return answer(a1, a2, [=](auto *p, auto *q, auto... outputs) {
         return cross_lin_cir(p, q, &kCenter, r, outputs...);
     });
 }
 
-void expectSame(const char *name, const Answer &got, const Answer &want, int32_t status) {
+void expectSame(const char *name, const Crossing &got, const Crossing &want, int32_t status) {
     EXPECT_EQ(got.status, status) << name;
     EXPECT_EQ(got.count, want.count) << name;
     EXPECT_EQ(got.out1, want.out1) << name;
@@ -50,7 +44,7 @@ void expectSame(const char *name, const Answer &got, const Answer &want, int32_t
 TEST(LineCircle, tellsTangentFromSecantOnBothSidesOfTheTolerance) {
     for (const double off : {2e-6, 0.5e-6, -0.5e-6, -2e-6}) {
         const double y = -2 - off; // below the centre
-        const Answer got = lineCircle({-5, y}, {1, y}, 2);
+        const Crossing got = lineCircle({-5, y}, {1, y}, 2);
         ASSERT_EQ(got.count, off > 1e-6 ? 0 : off > -1e-6 ? 1 : 2) << off;
         const double half = got.count == 2 ? std::sqrt(4 - y * y) : 0;
         // The root of a difference of 8e-6 that is known to some roundings of 4.
@@ -64,7 +58,7 @@ TEST(LineCircle, tellsTangentFromSecantOnBothSidesOfTheTolerance) {
 }
 
 TEST(LineCircle, doesNotCheckItsInput) {
-    const Answer pointLine = lineCircle({1, 1}, {1, 1}, 2);
+    const Crossing pointLine = lineCircle({1, 1}, {1, 1}, 2);
     EXPECT_EQ(pointLine.count, 2);
     EXPECT_FALSE(std::isfinite(pointLine.out1.x) || std::isfinite(pointLine.out2.x));
     EXPECT_EQ(lineCircle({-5, 0}, {5, 0}, -2).count, 0);
@@ -112,7 +106,7 @@ TEST(LineArc, keepsByArcAndSegment) {
     };
     for (const auto &c : cases) {
         const double angles[2] = {c.start, c.end};
-        const Answer got = lineArc(c.mode, c.a1, c.a2, 2, angles);
+        const Crossing got = lineArc(c.mode, c.a1, c.a2, 2, angles);
         EXPECT_EQ(got.status, 0) << c.about;
         ASSERT_EQ(got.count, c.want.size()) << c.about;
         const bool none = c.want.empty();
@@ -124,7 +118,7 @@ TEST(LineArc, keepsByArcAndSegment) {
 }
 
 TEST(LineArc, rejectsARadiusOrALineWithoutSize) {
-    const Answer rejected = {1, {0, 0}, {0, 0}, 0};
+    const Crossing rejected = {1, {0, 0}, {0, 0}, 0};
     expectSame("radius 0", lineArc(0, {1, 2}, {9, 2}, 0, nullptr), rejected, 1);
     expectSame("negative radius", lineArc(0, {1, 2}, {9, 2}, -1, nullptr), rejected, 1);
     expectSame("box", lineArc(0, {1, 2}, {1 + 0.9e-6, 2 + 0.9e-6}, 5, nullptr), rejected, 1);
@@ -146,14 +140,14 @@ TEST(LineArc, theOtherNamesAnswerAsTheirModes) {
         {{1, -4}, {1, 4}}, {{1, 4}, {1, -4}}, {{1, 0}, {0, 0}}, {{8, 8}, {9, 8}}, {{1, 1}, {1, 1}}};
     for (const auto &line : lines) {
         for (const auto &f : filtered) {
-            const Answer want = lineArc(f.mode, line[0], line[1], 2, arc);
-            const Answer got = answer(line[0], line[1], [&](auto *p, auto *q, auto... outputs) {
+            const Crossing want = lineArc(f.mode, line[0], line[1], 2, arc);
+            const Crossing got = answer(line[0], line[1], [&](auto *p, auto *q, auto... outputs) {
                 return f.function(p, q, &kCenter, 2, arc, outputs...);
             });
             expectSame(f.name, got, want, !f.foundOrNot ? want.status : want.count ? 0 : 2071);
         }
-        const Answer all = lineArc(0, line[0], line[1], 2, nullptr);
-        const Answer plain = answer(line[0], line[1], [](auto *p, auto *q, auto... outputs) {
+        const Crossing all = lineArc(0, line[0], line[1], 2, nullptr);
+        const Crossing plain = answer(line[0], line[1], [](auto *p, auto *q, auto... outputs) {
             return ca_crslc(p, q, &kCenter, 2, outputs...);
         });
         expectSame("ca_crslc", plain, all, all.count ? 0 : 2071);
@@ -184,7 +178,7 @@ TEST(LineCircle, findsTheEndsOfAChosenChord) {
         };
         const double s = random.uniform(-3, 3);
         const DTPOINT a1 = along(s), a2 = along(s + random.uniform(0.1, 3));
-        Answer got;
+        Crossing got;
         cross_lin_cir(&a1, &a2, &center, r, &got.out1, &got.out2, &got.count);
         ASSERT_EQ(got.count, 2) << i;
         // Coordinates of 15 r, reached over up to 30 times the distance of a1 and a2, against

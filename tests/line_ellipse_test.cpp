@@ -11,13 +11,8 @@ using namespace support;
 /// Rotated, off the origin, axes 6 and 2.
 constexpr DTELLIPSE kEllipse = {0, 10.0, -7.0, 6.0, 2.0, 0.0, 0.0, 30.0};
 
-struct Answer {
-    int32_t status;
-    uint16_t count = kUntouchedCount;
-    DTPOINT out1 = kUntouchedPoint, out2 = kUntouchedPoint;
-};
-Answer cross(const DTELLIPSE &e, DTPOINT p1, DTPOINT p2, const double *arc = nullptr) {
-    Answer answer{};
+Crossing cross(const DTELLIPSE &e, DTPOINT p1, DTPOINT p2, const double *arc = nullptr) {
+    Crossing answer;
     const DTPOINT center = {e.cx, e.cy};
     answer.status = arc != nullptr ? a2d_insl1(&p1, &p2, &center, e.a, e.b, e.rot, arc,
                                                &answer.out1, &answer.out2, &answer.count)
@@ -48,7 +43,7 @@ TEST(LineEllipse, CountsAndOrder) {
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.about);
-        const Answer got = cross(kEllipse, placed(kEllipse, c.p1), placed(kEllipse, c.p2));
+        const Crossing got = cross(kEllipse, placed(kEllipse, c.p1), placed(kEllipse, c.p2));
         EXPECT_EQ(got.status, 0);
         ASSERT_EQ(got.count, c.want.size());
         const auto want = [&](std::size_t i) {
@@ -75,7 +70,7 @@ TEST(LineEllipse, DegenerateInputLeavesThePoints) {
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.about);
-        const Answer got = cross({0, 10, -7, c.a, c.b, 0, 0, 0}, c.p1, c.p2);
+        const Crossing got = cross({0, 10, -7, c.a, c.b, 0, 0, 0}, c.p1, c.p2);
         EXPECT_EQ(got.status, -1);
         EXPECT_EQ(got.count, 0);
         EXPECT_EQ(got.out1, kUntouchedPoint);
@@ -107,14 +102,14 @@ TEST(LineEllipse, ArcKeepsItsPoints) {
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.about);
-        const Answer got = cross(kEllipse, p1, second, c.arc);
+        const Crossing got = cross(kEllipse, p1, second, c.arc);
         EXPECT_EQ(got.status, 0);
         ASSERT_EQ(got.count, c.want.size());
         EXPECT_TRUE(near(got.out1, !c.want.empty() ? c.want[0] : kNone, kWithin));
         EXPECT_TRUE(near(got.out2, c.want.size() > 1 ? c.want[1] : kNone, kWithin));
     }
     const double away[] = {100, 200};
-    const Answer tangent =
+    const Crossing tangent =
         cross(kEllipse, placed(kEllipse, {-4, 1}), placed(kEllipse, {5, 1}), away);
     EXPECT_EQ(tangent.count, 0);
     EXPECT_EQ(tangent.out1, kNone);
@@ -139,7 +134,7 @@ TEST(LineEllipse, ChordsComeBack) {
         const double before = random.uniform(-5, 0), behind = random.uniform(0.1, 5);
         const DTPOINT d = {second.x - first.x, second.y - first.y};
         const DTPOINT p1 = {first.x + d.x * before, first.y + d.y * before};
-        const Answer got = cross(e, p1, {p1.x + d.x * behind, p1.y + d.y * behind});
+        const Crossing got = cross(e, p1, {p1.x + d.x * behind, p1.y + d.y * behind});
         ASSERT_EQ(got.count, 2);
         // Coordinates within 40 sizes, rounded some ten times; a chord over 30 degrees magnifies
         // the error of its distance from the centre by less than 1 / sin 15 = 4, an axis ratio
@@ -205,7 +200,7 @@ TEST(LineEllipse, EndToKeep) {
 
 TEST(LineEllipse, Aliases) {
     const DTPOINT p1 = {20, 1}, p2 = {0, -12}, center = {10, -7};
-    const Answer got = cross(kEllipse, p1, p2);
+    const Crossing got = cross(kEllipse, p1, p2);
     for (auto alias : {ca_insle, a2d_insle2}) {
         DTPOINT out1, out2;
         uint16_t count;

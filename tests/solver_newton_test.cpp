@@ -24,7 +24,10 @@ TEST(Newton, findsARootFromTheMeanOfTheCoefficients) {
     } const cases[] = {
         {"from 1 to 2", {1, 0, -4}, 0, 2},
         {"the nearest of three", {1, -6, 11, -6}, 0, 1},
-        {"slope 0 and below: a step of second order, to the right", {1, 0, -1}, 0, 1},
+        {"slope 0: a second-order step to the right",
+         {-8, 9, 0, -1},
+         0,
+         (1 + std::sqrt(33.0)) / 16},
         {"slope 0 and no such step: the stationary point, not a root", {-2, 1, 0, 1}, 0, 0},
         {"slope 0 on a root", {1, -1, 0, 0}, 0, 0},
     };

@@ -6,13 +6,8 @@ namespace {
 
 using namespace support;
 
-struct Answer {
-    int32_t status;
-    uint16_t count = kUntouchedCount;
-    DTPOINT out1 = kUntouchedPoint, out2 = kUntouchedPoint;
-};
-Answer cross(DTPOINT p1, DTPOINT p2, double a, double b) {
-    Answer answer{};
+Crossing cross(DTPOINT p1, DTPOINT p2, double a, double b) {
+    Crossing answer;
     answer.status = a2d_insLStandardE(&p1, &p2, a, b, &answer.out1, &answer.out2, &answer.count);
     return answer;
 }
@@ -111,7 +106,7 @@ TEST(StandardLine, PointsAndTheirOrder) {
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.about);
-        const Answer got = cross(c.p1, c.p2, c.a, c.b);
+        const Crossing got = cross(c.p1, c.p2, c.a, c.b);
         EXPECT_EQ(got.status, 0);
         EXPECT_EQ(got.count, c.count);
         EXPECT_TRUE(near(got.out1, c.want1, 8 * kEpsilon));
@@ -126,7 +121,7 @@ TEST(StandardLine, PointsAndTheirOrder) {
     EXPECT_EQ(cross({0, 1.38}, {1.38, 0}, 2, 2).count, 1);     // chord 0.44
     EXPECT_EQ(cross({-1, 0}, {1, 0}, 1e160, 1.0).status, -1) << "1 / A^2 is zero";
     // Where products of squares overflow the plain quadratic is left.
-    const Answer huge = cross({0, 1e80}, {-2e80, 0}, 4e80, 2e80);
+    const Crossing huge = cross({0, 1e80}, {-2e80, 0}, 4e80, 2e80);
     EXPECT_EQ(huge.count, 2);
     EXPECT_TRUE(near(huge.out1, {0, 1e80}, 8e80 * kEpsilon));
     EXPECT_TRUE(near(huge.out2, {-2e80, 0}, 8e80 * kEpsilon));
@@ -142,7 +137,7 @@ TEST(StandardLine, ChordsComeBack) {
         const double t1 = random.angleDeg(), t2 = t1 + random.uniform(60, 300);
         const DTPOINT p = {halfA * std::cos(t1 * kRadPerDeg), halfB * std::sin(t1 * kRadPerDeg)};
         const DTPOINT q = {halfA * std::cos(t2 * kRadPerDeg), halfB * std::sin(t2 * kRadPerDeg)};
-        const Answer got = cross(p, q, 2 * halfA, 2 * halfB);
+        const Crossing got = cross(p, q, 2 * halfA, 2 * halfB);
         ASSERT_EQ(got.count, 2);
         const bool inOrder = p.x > q.x;
         // A few roundings; a chord over 60 degrees doubles those across it.

@@ -1,6 +1,7 @@
 // What every test shares: untouched outputs, settings that come back, portable random numbers.
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -29,6 +30,27 @@ inline constexpr double kRadPerDeg = 0.017453292519943295;
 inline constexpr double kUntouched = -7.25e77;
 inline constexpr DTPOINT kUntouchedPoint = {kUntouched, kUntouched};
 inline constexpr std::uint16_t kUntouchedCount = 4711;
+
+/// What the functions leave that give two points and a count.
+struct Crossing {
+    std::int32_t status = 0;
+    DTPOINT out1 = kUntouchedPoint, out2 = kUntouchedPoint;
+    std::uint16_t count = kUntouchedCount;
+};
+
+/// The same of common tangents: two contacts of each.
+struct Tangents {
+    std::int32_t status;
+    DTPOINT t[8];
+    std::uint16_t count = kUntouchedCount;
+};
+template <class Call> Tangents tangentsOf(Call call) {
+    Tangents got;
+    DTPOINT *t = got.t;
+    std::fill_n(t, 8, kUntouchedPoint);
+    got.status = call(t, t + 1, t + 2, t + 3, t + 4, t + 5, t + 6, t + 7, &got.count);
+    return got;
+}
 
 inline double distance(DTPOINT p, DTPOINT q) { return std::hypot(p.x - q.x, p.y - q.y); }
 inline DTPOINT polar(DTPOINT center, double r, double deg) {
