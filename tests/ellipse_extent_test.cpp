@@ -65,6 +65,7 @@ TEST(TangentPoints, ofAnArcGiveWayToItsNearerEnd) {
         {"270", 0, 360, 0, 270, {2, 0}, {-2, 0}},
         {"180", 0, 360, 0, 180, {0, 1}, {0, -1}},
         {"a rotation of 360 is none", 0, 360, 360, 90, {2, 0}, {-2, 0}},
+        {"nor is one of -360", 0, 360, -360, 90, {2, 0}, {-2, 0}},
         {"-90 is raised once", 0, 360, 0, -90, {2, 0}, {-2, 0}},
         {"a local direction of -90", 0, 360, 180, 90, {2, 0}, {-2, 0}},
     };

@@ -107,6 +107,7 @@ TEST(AllFeet, onTheAxesInOrder) {
     const DTELLIPSE exact = {0, 0, 0, 10, 6, 0, 360, 0};
     EXPECT_EQ(all(exact, {3.2, 0}).result, 2) << "the cusp itself";
     EXPECT_EQ(all(exact, {0, 16.0 / 3}).result, 2);
+    EXPECT_EQ(all({0, 0, 0, 30, 20, 0, 360, 0}, {1.8, 6.4}).result, 2) << "cubes of 3/5 and 4/5";
 }
 
 TEST(AllFeet, codesAndWhatIsCleared) {
@@ -299,4 +300,6 @@ TEST(PolarProjection, takesThePolarAngleForAParameter) {
     EXPECT_EQ(a2d_perle(&beside, &thin, &out), -1);
     EXPECT_EQ(out, kUntouchedPoint);
     EXPECT_EQ(a2d_perle(&beside, &kEllipse, &out), 0);
+    const DTELLIPSE quarter = {0, 7, -3, 10, 6, 0, 90, 1e-8};
+    EXPECT_EQ(a2d_perle(&beside, &quarter, &out), 0) << "below its start by all of the slack";
 }

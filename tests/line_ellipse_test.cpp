@@ -165,6 +165,7 @@ TEST(LineEllipse, EndToKeep) {
         {"the bit exchanges them: start", 0, rev, 0, 1, 10, 30, 30, 20},
         {"the other bit of e1 is not read", 0, clock, 0, 1, 60, 80, 30, 70},
         {"that end is elsewhere", 0, 0, 0, 0, 10, 30, 30, 0},
+        {"that start is elsewhere", 1, 0, 0, 0, 60, 80, 30, 0},
         {"one bit of e2 turns its range round", 0, 0, rev, 1, 80, 60, 30, 70},
         {"so does the other", 0, 0, clock, 0, 60, 80, 30, 0},
         {"both leave it", 0, 0, rev | clock, 1, 60, 80, 30, 70},

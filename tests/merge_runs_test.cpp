@@ -64,6 +64,8 @@ TEST(MergeRuns, comparesWithTheFirstSegmentOfTheRun) {
             want.push_back(points[i]);
         EXPECT_EQ(merged(points, c.tol), want) << c.about;
     }
+    const ToleranceGuard wide(40);
+    EXPECT_EQ(merged({{0, 0}, {1, 0}, {2, 1}}, 5).size(), 2U) << "45 less errdist is the tolerance";
 }
 
 TEST(MergeRuns, checksTheArrayAndTheToleranceBeforeTheCount) {

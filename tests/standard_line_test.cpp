@@ -24,7 +24,8 @@ TEST(StandardLine, TouchesByItsOwnTolerances) {
         int32_t status;
         DTPOINT want;
     };
-    const double root = std::sqrt(5.0); // x + y = root touches axes 4, 2 at (4, 1) / root
+    const double root = std::sqrt(5.0), h = root / 2;
+    // x + y = root touches axes 4, 2 at (4, 1) / root
     const Case cases[] = {
         {"horizontal above", {7, 1}, {-3, 1}, 4, 2, 0, {0, 1}},
         {"horizontal below", {7, -1}, {-3, -1}, 4, 2, 0, {0, -1}},
@@ -35,6 +36,7 @@ TEST(StandardLine, TouchesByItsOwnTolerances) {
         {"vertical within", {1, 9}, {1, 8}, 4, 2, -1, {}},
         {"hardly sloped: squares decide", {7, 1 + 0.9e-6}, {-3, 1 + 0.92e-6}, 4, 2, -1, {}},
         {"sloped", {root, 0}, {0, root}, 4, 2, 0, {4 / root, 1 / root}},
+        {"sloped, told in short", {h + 0.5, h - 0.5}, {h, h}, 4, 2, 0, {4 / root, 1 / root}},
         {"through the centre", {1, 3}, {-1, -3}, 4, 2, -1, {}},
         {"a circle's diameter", {0.3, 0.7}, {-0.3, -0.7}, 4, 4, -1, {}},
         {"second axis longer", {root, 0}, {0, root}, 2, 4, 0, {1 / root, 4 / root}},
