@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "base/pair.h"
 #include "base/tolerance.h"
 #include "base/vec2.h"
 
@@ -19,26 +20,24 @@ inline double directionDeg(Vec2 v) {
 }
 
 /// How far a coarse direction may be from directionDeg().
-inline constexpr double kCoarseDeg = 0.001;
+inline constexpr double kCoarseDeg = 0.04;
 
-/// directionDeg(v) to within kCoarseDeg, where it is not that near to 0; for tests that it decides
-/// without an arc tangent. NaN where the vector is zero or not finite.
+/// directionDeg() of two vectors to within kCoarseDeg, where it is not that near to 0; for tests
+/// that it decides without an arc tangent. NaN where a vector is zero or not finite.
 ///
-/// The polynomial is that of least error for the arc tangent between 0 and 1, 0.00066 degrees.
-inline double coarseDirectionDeg(Vec2 v) {
-    const double x = std::fabs(v.x), y = std::fabs(v.y);
-    const bool isSteep = y > x;
-    const double t = isSteep ? x / y : y / x;
-    const double t2 = t * t;
-    double deg = 1.1943370668087245;
-    deg = deg * t2 - 4.8790995050316175;
-    deg = deg * t2 + 10.32236722620474;
-    deg = deg * t2 - 18.925070163539644;
-    deg = (deg * t2 + 57.28812075571435) * t;
-    if (isSteep) deg = 90.0 - deg;
-    if (v.x < 0.0) deg = 180.0 - deg;
-    return v.y < 0.0 ? 360.0 - deg : deg;
+/// The polynomial is that of least error for the arc tangent between 0 and 1, 0.035 degrees.
+inline Pair coarseDirectionDeg(Vec2Pair v) {
+    constexpr Pair kNothing = {};
+    const Pair x = magnitude(v.x), y = magnitude(v.y);
+    const Pair t = smaller(x, y) / larger(x, y);
+    const Pair t2 = t * t;
+    Pair deg = ((4.545792279387551 * t2 - 16.540732298214937) * t2 + 57.02980992695602) * t;
+    // Differences from 90, from 180 and from 360, or from nothing.
+    deg = magnitude((y > x ? kNothing + 90.0 : kNothing) - deg);
+    deg = magnitude((v.x < 0.0 ? kNothing + 180.0 : kNothing) - deg);
+    return magnitude((v.y < 0.0 ? kNothing + 360.0 : kNothing) - deg);
 }
+inline double coarseDirectionDeg(Vec2 v) { return coarseDirectionDeg(twice(v))[0]; }
 
 /// Whether a coarse direction is on the same side of an angle as the exact one.
 inline bool isClearOf(double coarseDeg, double deg) {
@@ -49,6 +48,27 @@ inline bool isClearOf(double coarseDeg, double deg) {
 inline bool isClearOfZero(double coarseDeg) {
     return isClearOf(coarseDeg, 0.0) && isClearOf(coarseDeg, 360.0);
 }
+
+/// Whether two directions lie between first and last, last up to a turn above 360; as far as a
+/// coarse look tells.
+struct CoarseLook {
+    Pair told = {1.0, 1.0};   ///< positive where inside tells something
+    Pair inside = {1.0, 1.0}; ///< positive where the direction lies between
+
+    CoarseLook() = default; ///< of a whole turn
+    CoarseLook(Vec2Pair v, double first, double last) {
+        if (!(first < last)) {
+            told = Pair{};
+            return;
+        }
+        const Pair coarse = coarseDirectionDeg(v);
+        const Pair raised = coarse + (first > coarse ? Pair{360.0, 360.0} : Pair{});
+        const Pair apartFromEnds = smaller(magnitude(coarse - first), magnitude(raised - last));
+        const Pair apartFromZero = smaller(coarse, 360.0 - coarse);
+        told = smaller(apartFromEnds, apartFromZero) - 2.0 * kCoarseDeg;
+        inside = last - raised;
+    }
+};
 
 /// Direction of a vector in radians, [0, 2 pi]; a component below kAxisSnapLength counts as zero.
 double snappedDirectionRad(Vec2 v);
@@ -174,7 +194,8 @@ struct CoarseRange {
     bool isUsable; ///< neither snapped nor near 0, nor both the same
 
     static CoarseRange of(Vec2 startRay, Vec2 endRay) {
-        const AngleRange range = {coarseDirectionDeg(startRay), coarseDirectionDeg(endRay)};
+        const Pair coarse = coarseDirectionDeg(pairOf(startRay, endRay));
+        const AngleRange range = {coarse[0], coarse[1]};
         const bool isUsable = !isSnapped(startRay) && !isSnapped(endRay) &&
                               isClearOfZero(range.start) && isClearOfZero(range.end) &&
                               isClearOf(range.start, range.end);

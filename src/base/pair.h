@@ -32,10 +32,15 @@ inline Pair smallerOf(Pair v) { return smaller(v, Pair{v[1], v[0]}); }
 struct Vec2Pair {
     Pair x;
     Pair y;
+
+    Vec2 at(int i) const { return {x[i], y[i]}; }
 };
 
 inline Vec2Pair pairOf(Vec2 v, Vec2 w) { return {Pair{v.x, w.x}, Pair{v.y, w.y}}; }
 
+inline Vec2Pair twice(Vec2 v) { return pairOf(v, v); }
+
+inline Vec2Pair operator+(Vec2Pair v, Vec2Pair w) { return {v.x + w.x, v.y + w.y}; }
 inline Vec2Pair operator-(Vec2Pair v, Vec2Pair w) { return {v.x - w.x, v.y - w.y}; }
 inline Pair dot(Vec2Pair v, Vec2Pair w) { return v.x * w.x + v.y * w.y; }
 inline Pair cross(Vec2Pair v, Vec2Pair w) { return v.x * w.y - v.y * w.x; }

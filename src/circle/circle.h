@@ -37,6 +37,18 @@ struct PointPair {
     }
 };
 
+/// storePadded() of those of two points that are kept, without a branch on which; their number.
+/// Coordinates are written and read one by one: processors wait where a read unites two writes.
+inline int storeKept(Vec2Pair points, bool keepsFirst, bool keepsSecond, DTPOINT *out1,
+                     DTPOINT *out2) {
+    static constexpr int kCounts[] = {0, 1, 1, 2}, kFirst[] = {2, 0, 1, 0}, kLast[] = {2, 0, 1, 1};
+    const int kept = (keepsFirst ? 1 : 0) + (keepsSecond ? 2 : 0);
+    const double x[] = {points.x[0], points.x[1], 0.0}, y[] = {points.y[0], points.y[1], 0.0};
+    store({x[kFirst[kept]], y[kFirst[kept]]}, out1);
+    store({x[kLast[kept]], y[kLast[kept]]}, out2);
+    return kCounts[kept];
+}
+
 /// Both outputs are written always: (0, 0) without a point, a single point twice.
 inline void storePadded(const PointPair &points, DTPOINT *out1, DTPOINT *out2) {
     const Vec2 first = points.count > 0 ? points.at[0] : Vec2{0.0, 0.0};

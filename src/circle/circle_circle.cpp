@@ -12,14 +12,15 @@ using namespace planegeo;
 ///   c1 + (q v +- s right of v) / |v|^2,  q = (r1^2 - r2^2 + |v|^2) / 2,  s^2 = r1^2 |v|^2 - q^2.
 /// Kept in this form: it is exact on a grid, and whether a point lies at the very end of an arc
 /// hangs on its last bits. A square that rounding makes negative gives non-finite points.
-PointPair crossingPoints(const Circle &one, const Circle &other) {
+Vec2Pair crossingPoints(const Circle &one, const Circle &other) {
     const Vec2 v = other.center - one.center;
     const double d2 = dot(v, v);
     const double q = (one.r * one.r - other.r * other.r + d2) * 0.5;
     const double s = std::sqrt(one.r * one.r * d2 - q * q);
     const Vec2 toChord = v * q;
     const Vec2 left = leftNormal(v) * s;
-    return {{one.center + (toChord - left) / d2, one.center + (toChord + left) / d2}, 2};
+    const Vec2Pair fromCenter = twice(toChord) + pairOf(-left, left);
+    return twice(one.center) + Vec2Pair{fromCenter.x / d2, fromCenter.y / d2};
 }
 
 Vec2 touchingPoint(const Circle &one, const Circle &other, double d) {
@@ -43,7 +44,10 @@ PointPair crossCircles(const Circle &one, const Circle &other) {
     const double d = std::sqrt(d2);
     const double apart = d - (one.r + other.r);
     const double enclosed = d - std::fabs(one.r - other.r); // negative: one inside the other
-    if (apart < -kTouchLength && enclosed > kTouchLength) return crossingPoints(one, other);
+    if (apart < -kTouchLength && enclosed > kTouchLength) {
+        const Vec2Pair points = crossingPoints(one, other);
+        return {{points.at(0), points.at(1)}, 2};
+    }
     if (apart > kTouchLength || enclosed < -kTouchLength) return {};
     return {{touchingPoint(one, other, d)}, 1};
 }
@@ -63,38 +67,40 @@ bool isFullExactly(AngleRange range) {
     return range.end == range.start || range.end - range.start == 360.0;
 }
 
-double raised(double deg) { return deg < 0.0 ? deg + 360.0 : deg; }
-AngleRange raised(AngleRange range) { return {raised(range.start), raised(range.end)}; }
+AngleRange raised(AngleRange range) {
+    return {raisedIf(range.start < 0.0, range.start), raisedIf(range.end < 0.0, range.end)};
+}
 
 /// The filter of arc with arc, apart from AngleRange on purpose: its slack is far wider and
 /// does not reach back across 0, and a direction at the very start takes another turn.
-bool isOnArcWithWideSlack(const Arc &arc, Vec2 point) {
-    const double first = arc.range.start - kArcArcSlackDeg;
-    double last = arc.range.end + kArcArcSlackDeg;
-    if (first > last) last += 360.0;
-    const Vec2 fromCenter = point - arc.circle.center;
-    const double coarse = coarseDirectionDeg(fromCenter);
-    const double turned = first >= coarse ? coarse + 360.0 : coarse;
-    if (isClearOfZero(coarse) && isClearOf(coarse, first) && isClearOf(turned, last)) {
-        return turned < last;
-    }
-    double deg = directionDeg(fromCenter);
-    if (deg == 360.0) deg = 0.0;
-    if (first >= deg) deg += 360.0;
-    return !(deg > last); // a NaN passes
-}
+struct WideArc {
+    Vec2 center;
+    double first;
+    double last;
+    bool isFull;
 
-PointPair keptOnBothArcs(const PointPair &points, Arc one, Arc other, FullCircleTest isFull) {
-    // Raised once more on purpose: an angle below -360 has come here still negative.
-    one.range = raised(one.range);
-    other.range = raised(other.range);
-    const bool anyOnOne = isFull(one.range);
-    const bool anyOnOther = isFull(other.range);
-    return points.keptWhere([&](Vec2 p) {
-        return (anyOnOne || isOnArcWithWideSlack(one, p)) &&
-               (anyOnOther || isOnArcWithWideSlack(other, p));
-    });
-}
+    WideArc(const Arc &arc, FullCircleTest isFullCircle) : center(arc.circle.center) {
+        const AngleRange range = raised(arc.range);
+        isFull = isFullCircle(range);
+        first = range.start - kArcArcSlackDeg;
+        last = range.end + kArcArcSlackDeg;
+        last = raisedIf(first > last, last);
+    }
+
+    bool holds(Vec2 point) const {
+        if (isFull) return true;
+        double deg = directionDeg(point - center);
+        if (deg == 360.0) deg = 0.0;
+        if (first >= deg) deg += 360.0;
+        return !(deg > last); // a NaN passes
+    }
+
+    /// Positive where a point is held, and where that is clear of every angle at which it changes.
+    CoarseLook look(Vec2Pair points) const {
+        if (isFull) return {};
+        return CoarseLook(points - twice(center), first, last);
+    }
+};
 
 bool areIdentical(const Arc &one, const Arc &other) {
     const double tolerance = distanceTolerance();
@@ -126,41 +132,69 @@ PointPair commonEnds(const Arc &one, const Arc &other) {
     return points;
 }
 
-/// What two circles have in common before the ranges are asked, with errdist throughout.
-PointPair crossCirclesOfArcs(const Circle &one, const Circle &other) {
+/// How many points two circles have in common before the ranges are asked, with errdist throughout.
+int countOfCommon(const Circle &one, const Circle &other, double d) {
     const double tolerance = distanceTolerance();
-    const Vec2 along = other.center - one.center;
-    const double d = plainLength(along);
     const double enclosed = std::fabs(one.r - other.r);
     const double overlap = one.r + other.r - d;
-    if (std::fabs(enclosed - d) < tolerance || std::fabs(overlap) < tolerance) {
-        // A touch is measured from the centre of the larger circle.
-        const Vec2 point =
-            one.r >= other.r ? one.center + along * one.r / d : other.center - along * other.r / d;
-        return {{point}, 1};
-    }
-    if (d < tolerance || overlap < 0.0 || enclosed > d) return {};
-    return crossingPoints(one, other);
+    if (std::fabs(enclosed - d) < tolerance || std::fabs(overlap) < tolerance) return 1;
+    return d < tolerance || overlap < 0.0 || enclosed > d ? 0 : 2;
 }
 
-int32_t answerArcs(const Arc &one, const Arc &other, FullCircleTest isFull, DTPOINT *out1,
-                   DTPOINT *out2, uint16_t *count) {
+/// A touch is measured from the centre of the larger circle.
+Vec2 touchOfArcs(const Circle &one, const Circle &other, double d) {
+    const Vec2 along = other.center - one.center;
+    return one.r >= other.r ? one.center + along * one.r / d : other.center - along * other.r / d;
+}
+
+/// storeHeld() without its short cut.
+[[gnu::noinline]] int storeHeldOneByOne(WideArc one, WideArc other, Vec2Pair points, DTPOINT *out1,
+                                        DTPOINT *out2) {
+    const auto isHeld = [&](Vec2 p) { return one.holds(p) && other.holds(p); };
+    return storeKept(points, isHeld(points.at(0)), isHeld(points.at(1)), out1, out2);
+}
+
+/// The points held by both arcs; their number.
+int storeHeld(const WideArc &one, const WideArc &other, Vec2Pair points, DTPOINT *out1,
+              DTPOINT *out2) {
+    const CoarseLook onOne = one.look(points), onOther = other.look(points);
+    const Pair told = onOne.told > 0.0 ? onOther.told : Pair{};
+    if (told[0] > 0.0 && told[1] > 0.0) {
+        const Pair held = smaller(onOne.inside, onOther.inside);
+        return storeKept(points, held[0] > 0.0, held[1] > 0.0, out1, out2);
+    }
+    return storeHeldOneByOne(one, other, points, out1, out2);
+}
+
+template <FullCircleTest isFull>
+int32_t answerArcs(const Arc &one, const Arc &other, DTPOINT *out1, DTPOINT *out2,
+                   uint16_t *count) {
     *count = 0;
     if (areIdentical(one, other)) return 1;
     if (one.circle.r <= 0.0 || other.circle.r <= 0.0) return 1;
 
-    PointPair points{};
-    if (isWithinBox(one.circle.center - other.circle.center, distanceTolerance())) {
+    const Vec2 along = other.circle.center - one.circle.center;
+    if (isWithinBox(along, distanceTolerance())) {
         if (!(std::fabs(one.circle.r - other.circle.r) < distanceTolerance())) return 0;
-        points = commonEnds(one, other);
+        const PointPair points = commonEnds(one, other);
         if (points.count == 0) return 0;
-    } else {
-        points = crossCirclesOfArcs(one.circle, other.circle);
-        if (points.count == 0) return 0;
-        points = keptOnBothArcs(points, one, other, isFull);
+        storePadded(points, out1, out2);
+        *count = static_cast<uint16_t>(points.count);
+        return 0;
     }
-    storePadded(points, out1, out2);
-    *count = static_cast<uint16_t>(points.count);
+    const double d = plainLength(along);
+    const int common = countOfCommon(one.circle, other.circle, d);
+    if (common == 0) return 0;
+    // Raised once more on purpose: an angle below -360 has come here still negative.
+    const WideArc first(one, isFull), second(other, isFull);
+    if (common == 2) {
+        const Vec2Pair points = crossingPoints(one.circle, other.circle);
+        *count = static_cast<uint16_t>(storeHeld(first, second, points, out1, out2));
+        return 0;
+    }
+    const Vec2 touch = touchOfArcs(one.circle, other.circle, d);
+    const int held = storeHeldOneByOne(first, second, twice(touch), out1, out2);
+    *count = held > 0 ? 1 : 0;
     return 0;
 }
 
@@ -179,16 +213,16 @@ int32_t a2dCrs2C(const DTPOINT *c1, double r1, const DTPOINT *c2, double r2, dou
 
 int32_t a2d_ins2c(const DTPOINT *c1, const DTPOINT *c2, double r1, double r2, const double *angles1,
                   const double *angles2, DTPOINT *out1, DTPOINT *out2, uint16_t *count) {
-    return answerArcs({{load(c1), r1}, raised(loadRange(angles1))},
-                      {{load(c2), r2}, raised(loadRange(angles2))}, isFullWithSlack, out1, out2,
-                      count);
+    return answerArcs<isFullWithSlack>({{load(c1), r1}, raised(loadRange(angles1))},
+                                       {{load(c2), r2}, raised(loadRange(angles2))}, out1, out2,
+                                       count);
 }
 
 int32_t ca_ins2c(const DTPOINT *c1, const DTPOINT *c2, double r1, double r2, const double *angles1,
                  const double *angles2, DTPOINT *out1, DTPOINT *out2, uint16_t *count) {
-    return answerArcs({{load(c1), r1}, raised(loadRange(angles1))},
-                      {{load(c2), r2}, raised(loadRange(angles2))}, isFullExactly, out1, out2,
-                      count);
+    return answerArcs<isFullExactly>({{load(c1), r1}, raised(loadRange(angles1))},
+                                     {{load(c2), r2}, raised(loadRange(angles2))}, out1, out2,
+                                     count);
 }
 
 } // extern "C"

@@ -9,69 +9,100 @@ using namespace planegeo;
 
 /// The range as this question reads it, apart from AngleRange on purpose: a negative angle is
 /// raised by one turn and nothing else is reduced.
-class LiteralArc {
-  public:
+struct LiteralArc {
+    double first;
+    double last;
+    bool isFull;
+
     explicit LiteralArc(AngleRange range) {
-        const double start = raisedOnce(range.start);
-        const double end = raisedOnce(range.end);
-        full_ = std::fabs(end - start) < kLineArcSlackDeg ||
-                std::fabs(end - start - 360.0) < kLineArcSlackDeg;
-        first_ = start - kLineArcSlackDeg;
-        last_ = end + kLineArcSlackDeg;
-        if (first_ >= last_) last_ += 360.0;
+        const double start = raisedIf(range.start < 0.0, range.start);
+        const double end = raisedIf(range.end < 0.0, range.end);
+        isFull = std::fabs(end - start) < kLineArcSlackDeg ||
+                 std::fabs(end - start - 360.0) < kLineArcSlackDeg;
+        first = start - kLineArcSlackDeg;
+        last = end + kLineArcSlackDeg;
+        last = raisedIf(first >= last, last);
     }
 
     bool holds(Vec2 fromCenter) const {
-        if (full_) return true;
-        const double coarse = coarseDirectionDeg(fromCenter);
-        const double raised = first_ > coarse ? coarse + 360.0 : coarse;
-        if (isClearOfZero(coarse) && isClearOf(coarse, first_) && isClearOf(raised, last_)) {
-            return raised < last_;
-        }
+        if (isFull) return true;
         double deg = directionDeg(fromCenter);
         if (std::fabs(deg - 360.0) < kLineArcSlackDeg) deg = 0.0;
-        if (first_ > deg) deg += 360.0;
-        return !(deg > last_); // a NaN passes
+        if (first > deg) deg += 360.0;
+        return !(deg > last); // a NaN passes
     }
-
-  private:
-    static double raisedOnce(double deg) { return deg < 0.0 ? deg + 360.0 : deg; }
-
-    double first_;
-    double last_;
-    bool full_;
 };
 
-} // namespace
+/// Which of two points are kept, positive numbers, where all is clear of every tolerance.
+struct KeptOfTwo {
+    Pair told = {1.0, 1.0};
+    Pair kept = {1.0, 1.0};
 
-namespace planegeo {
+    KeptOfTwo(Keep keep, const Segment &line, const Circle &circle, AngleRange range,
+              Vec2Pair points) {
+        if (asksForArc(keep)) {
+            const LiteralArc arc(range);
+            if (!arc.isFull) {
+                const CoarseLook look(points - twice(circle.center), arc.first, arc.last);
+                told = look.told;
+                kept = look.inside;
+            }
+        }
+        if (asksForSegment(keep)) {
+            const SegmentLook<Vec2Pair> look(twice(line.direction()), points - twice(line.start));
+            const Pair on = look.onLine > 0.0 ? look.inside : Pair{};
+            const Pair either = larger(on, look.outside);
+            told = told > 0.0 ? either : Pair{};
+            told = longestTold() > look.longer ? told : Pair{};
+            kept = on > 0.0 ? kept : Pair{};
+        }
+    }
 
-PointPair crossLineCircle(const Segment &line, const Circle &circle) {
-    const Vec2 along = line.direction();
-    const double squared = dot(along, along);
-    const PerpendicularFoot foot = footOnLine(circle.center, line.start, along);
-    const double gap = std::fabs(foot.offset) * std::sqrt(squared) - circle.r;
-    if (gap >= distanceTolerance()) return {};
-    if (std::fabs(gap) < distanceTolerance()) return {{foot.point}, 1};
+    bool isTold() const { return told[0] > 0.0 && told[1] > 0.0; }
+};
 
-    // With p and q from the centre to the points of the line and d from one to the other:
-    //   c + (D left of d +- s d) / |d|^2,  D = q x p,  s^2 = r^2 |d|^2 - D^2.
-    // Kept in this form: it is exact on a grid, and whether a point lies at the very end of
-    // an arc hangs on its last bits.
-    const double D = cross(line.end - circle.center, line.start - circle.center);
-    const double s = std::sqrt(circle.r * circle.r * squared - D * D);
-    const Vec2 toFoot = leftNormal(along) * D;
-    const Vec2 ahead = along * s;
-    return {
-        {(toFoot + ahead) / squared + circle.center, (toFoot - ahead) / squared + circle.center},
-        2};
+inline bool isRefused(const Segment &line, const Circle &circle) {
+    return circle.r <= 0.0 || isWithinBox(line.direction(), distanceTolerance());
 }
 
-std::optional<PointPair> crossLineArc(Keep keep, const Segment &line, const Circle &circle,
-                                      AngleRange range) {
-    if (circle.r <= 0.0) return std::nullopt;
-    if (isWithinBox(line.direction(), distanceTolerance())) return std::nullopt;
-    PointPair points = crossLineCircle(line, circle);
+/// How a line passes a circle.
+struct Passage {
+    Vec2 along;
+    double squared;
+    Vec2 foot;  ///< of the perpendicular from the centre
+    double gap; ///< from the circle to the line; negative where the line cuts it
+
+    Passage(const Segment &line, const Circle &circle)
+        : along(line.direction()), squared(dot(along, along)) {
+        const PerpendicularFoot dropped = footOnLine(circle.center, line.start, along);
+        foot = dropped.point;
+        gap = std::fabs(dropped.offset) * std::sqrt(squared) - circle.r;
+    }
+
+    /// With p and q from the centre to the points of the line and d from one to the other:
+    ///   c + (D left of d +- s d) / |d|^2,  D = q x p,  s^2 = r^2 |d|^2 - D^2.
+    /// Kept in this form: it is exact on a grid, and whether a point lies at the very end of an arc
+    /// hangs on its last bits.
+    Vec2Pair cuts(const Segment &line, const Circle &circle) const {
+        const double D = cross(line.end - circle.center, line.start - circle.center);
+        const double s = std::sqrt(circle.r * circle.r * squared - D * D);
+        const Vec2 toFoot = leftNormal(along) * D;
+        const Vec2 ahead = along * s;
+        const Vec2Pair cut = twice(toFoot) + pairOf(ahead, -ahead);
+        return Vec2Pair{cut.x / squared, cut.y / squared} + twice(circle.center);
+    }
+};
+
+/// crossLineArc() of a line with a direction and a circle with a radius.
+PointPair keptOf(const Passage &passage, Keep keep, const Segment &line, const Circle &circle,
+                 AngleRange range) {
+    const double tolerance = distanceTolerance();
+    if (passage.gap >= tolerance) return {};
+    PointPair points = {{passage.foot}, 1};
+    if (!(std::fabs(passage.gap) < tolerance)) {
+        const Vec2Pair cuts = passage.cuts(line, circle);
+        points = {{cuts.at(0), cuts.at(1)}, 2};
+    }
     if (asksForArc(keep)) {
         const LiteralArc arc(range);
         points = points.keptWhere([&](Vec2 p) { return arc.holds(p - circle.center); });
@@ -82,22 +113,57 @@ std::optional<PointPair> crossLineArc(Keep keep, const Segment &line, const Circ
     return points;
 }
 
-} // namespace planegeo
-
-namespace {
-
-constexpr int32_t kNoPoint = 2071;
-
-int32_t answerLineArc(Keep keep, const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *center,
-                      double r, const double *angles, DTPOINT *out1, DTPOINT *out2,
-                      uint16_t *count) {
-    const AngleRange range = asksForArc(keep) ? loadRange(angles) : AngleRange{};
-    const auto points = crossLineArc(keep, load(a1, a2), {load(center), r}, range);
+/// answerLineArc() without its short cut.
+[[gnu::noinline]] int32_t answerOneByOne(Keep keep, const Segment &line, const Circle &circle,
+                                         AngleRange range, DTPOINT *out1, DTPOINT *out2,
+                                         uint16_t *count) {
+    const auto points = crossLineArc(keep, line, circle, range);
     const PointPair kept = points.value_or(PointPair{});
     storePadded(kept, out1, out2);
     *count = static_cast<uint16_t>(kept.count);
     return points ? 0 : 1;
 }
+
+template <Keep keep>
+int32_t answerLineArc(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *center, double r,
+                      const double *angles, DTPOINT *out1, DTPOINT *out2, uint16_t *count) {
+    const AngleRange range = asksForArc(keep) ? loadRange(angles) : AngleRange{};
+    const Segment line = load(a1, a2);
+    const Circle circle = {load(center), r};
+    const double tolerance = distanceTolerance();
+    const Passage passage(line, circle);
+    if (!isRefused(line, circle) && passage.gap < tolerance &&
+        !(std::fabs(passage.gap) < tolerance)) {
+        const Vec2Pair cuts = passage.cuts(line, circle);
+        const KeptOfTwo look(keep, line, circle, range, cuts);
+        if (look.isTold()) {
+            *count = static_cast<uint16_t>(
+                storeKept(cuts, look.kept[0] > 0.0, look.kept[1] > 0.0, out1, out2));
+            return 0;
+        }
+    }
+    return answerOneByOne(keep, line, circle, range, out1, out2, count);
+}
+
+} // namespace
+
+namespace planegeo {
+
+PointPair crossLineCircle(const Segment &line, const Circle &circle) {
+    return keptOf(Passage(line, circle), Keep::all, line, circle, {});
+}
+
+std::optional<PointPair> crossLineArc(Keep keep, const Segment &line, const Circle &circle,
+                                      AngleRange range) {
+    if (isRefused(line, circle)) return std::nullopt;
+    return keptOf(Passage(line, circle), keep, line, circle, range);
+}
+
+} // namespace planegeo
+
+namespace {
+
+constexpr int32_t kNoPoint = 2071;
 
 } // namespace
 
@@ -113,31 +179,40 @@ int32_t cross_lin_cir(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *cente
 
 int32_t a2d_lin_arc(uint32_t mode, const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *center,
                     double r, const double *angles, DTPOINT *out1, DTPOINT *out2, uint16_t *count) {
-    return answerLineArc(Keep{mode}, a1, a2, center, r, angles, out1, out2, count);
+    switch (Keep{mode}) {
+    case Keep::onArc:
+        return answerLineArc<Keep::onArc>(a1, a2, center, r, angles, out1, out2, count);
+    case Keep::onSegment:
+        return answerLineArc<Keep::onSegment>(a1, a2, center, r, angles, out1, out2, count);
+    case Keep::onBoth:
+        return answerLineArc<Keep::onBoth>(a1, a2, center, r, angles, out1, out2, count);
+    default:
+        return answerLineArc<Keep::all>(a1, a2, center, r, angles, out1, out2, count);
+    }
 }
 
 int32_t a2dCrsLC(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *center, double r,
                  DTPOINT *out) {
     uint16_t count;
-    answerLineArc(Keep::all, a1, a2, center, r, nullptr, out, out + 1, &count);
+    answerLineArc<Keep::all>(a1, a2, center, r, nullptr, out, out + 1, &count);
     return count;
 }
 
 int32_t ca_crslc(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *center, double r,
                  DTPOINT *out1, DTPOINT *out2, uint16_t *count) {
-    answerLineArc(Keep::all, a1, a2, center, r, nullptr, out1, out2, count);
+    answerLineArc<Keep::all>(a1, a2, center, r, nullptr, out1, out2, count);
     return *count > 0 ? 0 : kNoPoint;
 }
 
 int32_t ca_crslc2(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *center, double r,
                   const double *angles, DTPOINT *out1, DTPOINT *out2, uint16_t *count) {
-    answerLineArc(Keep::onArc, a1, a2, center, r, angles, out1, out2, count);
+    answerLineArc<Keep::onArc>(a1, a2, center, r, angles, out1, out2, count);
     return *count > 0 ? 0 : kNoPoint;
 }
 
 int32_t ca_inslc(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *center, double r,
                  const double *angles, DTPOINT *out1, DTPOINT *out2, uint16_t *count) {
-    return answerLineArc(Keep::onBoth, a1, a2, center, r, angles, out1, out2, count);
+    return answerLineArc<Keep::onBoth>(a1, a2, center, r, angles, out1, out2, count);
 }
 
 int32_t a2d_inslc(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *center, double r,
@@ -147,7 +222,7 @@ int32_t a2d_inslc(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *center, d
 
 int32_t sb_inslc(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *center, double r,
                  const double *angles, DTPOINT *out1, DTPOINT *out2, uint16_t *count) {
-    return answerLineArc(Keep::onArc, a1, a2, center, r, angles, out1, out2, count);
+    return answerLineArc<Keep::onArc>(a1, a2, center, r, angles, out1, out2, count);
 }
 
 } // extern "C"
