@@ -2,6 +2,7 @@
 // before which files every call is told before it is made; --random SECONDS SEED, for inputs that
 // the seed decides.
 
+#include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -19,6 +20,7 @@ struct Slowest {
 };
 
 std::string current;
+std::uint64_t executions = 0;
 std::uint64_t calls = 0;
 std::vector<Slowest> &slowest() {
     static std::vector<Slowest> times(kEntries.size());
@@ -40,9 +42,8 @@ void executeFile(const char *name, Frame &frame) {
 /// The input itself names the execution: its eight bytes are the seed and the turn, mixed.
 void executeRandom(std::chrono::seconds time, std::uint64_t seed, Frame &frame) {
     const auto end = std::chrono::steady_clock::now() + time;
-    std::uint64_t turn = 0;
-    for (; std::chrono::steady_clock::now() < end; ++turn) {
-        std::uint64_t bits = (seed << 40 | turn) * 0x9e3779b97f4a7c15u;
+    for (; std::chrono::steady_clock::now() < end; ++executions) {
+        std::uint64_t bits = (seed << 40 | executions) * 0x9e3779b97f4a7c15u;
         bits = (bits ^ (bits >> 32)) * 0xd6e8feb86659fd93u;
         bits ^= bits >> 32;
         std::uint8_t bytes[sizeof bits];
@@ -52,13 +53,19 @@ void executeRandom(std::chrono::seconds time, std::uint64_t seed, Frame &frame) 
         current = name;
         execute(bytes, sizeof bytes, frame, note);
     }
-    std::printf("%llu executions, %llu calls\n", static_cast<unsigned long long>(turn),
+    std::printf("%llu executions, %llu calls\n", static_cast<unsigned long long>(executions),
                 static_cast<unsigned long long>(calls));
+}
+
+void tellWhere(int) {
+    std::fprintf(stderr, "in %s, after %llu executions\n", current.c_str(),
+                 static_cast<unsigned long long>(executions));
 }
 
 } // namespace
 
 int main(int argc, char **argv) {
+    std::signal(SIGABRT, tellWhere);
     Frame frame;
     for (int i = 1; i < argc; ++i) {
         const std::string argument = argv[i];

@@ -485,6 +485,7 @@ void commonTangents(Scene &s) {
 struct Seen {
     DTPOINT center;
     double a, b;
+    double skew; ///< how far off the axes that it is taken to have are
 
     /// By definition the curves meet in two points where this is nothing, even such as do not meet.
     bool isTouch(double r) const {
@@ -497,7 +498,7 @@ struct Seen {
     /// an axis counts as on it.
     double slack(double r) const {
         const double roundness = a - b < 1.1 * kErrdist ? slackOfCircles(r) : 0.0;
-        return kErrdist * (3.0 + a + r) + roundness;
+        return kErrdist * (3.0 + a + r) + 2.0 * skew + roundness;
     }
 
   private:
@@ -518,11 +519,18 @@ Seen seen(const Ellipse &first, const Ellipse &second) {
     const DTPOINT center = first.local(second.center);
     DTPOINT u = turned({0.5 * second.a, 0.0}, deg), v = turned({0.0, 0.5 * second.b}, deg);
     u.y *= k, v.y *= k;
+    const double lean = std::fabs(dot(u, v)), p = length(u), q = length(v);
+    if (lean < 1e-6) { // conjugate half axes are then taken for the axes themselves
+        const double tilt = std::atan2(u.y, u.x) / kRadPerDeg + (p < q ? 90.0 : 0.0);
+        return {turned({center.x, center.y * k}, -tilt), std::fmax(p, q), std::fmin(p, q),
+                lean / p};
+    }
     const double tilt = 0.5 * std::atan2(2.0 * (u.x * u.y + v.x * v.y),
                                          u.x * u.x + v.x * v.x - u.y * u.y - v.y * v.y);
     const DTPOINT axis = {std::cos(tilt), std::sin(tilt)};
     const double a = length({dot(axis, u), dot(axis, v)});
-    return {turned({center.x, center.y * k}, -tilt / kRadPerDeg), a, std::fabs(cross(u, v)) / a};
+    const double b = std::fabs(cross(u, v)) / a;
+    return {turned({center.x, center.y * k}, -tilt / kRadPerDeg), a, b, 0.0};
 }
 
 void conicsMeet(Scene &s) {
