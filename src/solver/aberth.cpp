@@ -56,10 +56,12 @@ void placeOnCircle(RootTable &z, const double *c, int n) {
     }
 }
 
-/// |z| >= limit; not of a NaN.
+/// |z| >= limit; not of a NaN. Roots that have converged are far below it.
 bool reaches(Complex z, double limit) {
-    const bool partReaches = std::fabs(z.re) >= limit || std::fabs(z.im) >= limit;
-    if (partReaches && !std::isnan(z.re) && !std::isnan(z.im)) return true;
+    const double re = std::fabs(z.re), im = std::fabs(z.im), half = 0.5 * limit;
+    if (re < half && im < half) return false; // |z| is less than 0.71 of the limit
+    const bool partReaches = re >= limit || im >= limit;
+    if (partReaches && !std::isnan(re) && !std::isnan(im)) return true;
     return std::hypot(z.re, z.im) >= limit;
 }
 
@@ -72,39 +74,47 @@ bool reaches(Complex z, double limit) {
 bool sweep(RootTable &z, const double *c, int n, double bound) {
     bool isBelow = bound > 0.0;
     const auto count = static_cast<std::size_t>(n);
+    Complex moved = {0.0, 0.0}; // the root before: the next one waits for it, in no memory
     for (std::size_t i = 0; i < count; ++i) {
         const Complex root = z[i];
         Complex value = {1.0, 0.0};
         Complex product = {1.0, 0.0};
-        const auto step = [&](std::size_t k, std::size_t other) {
+        const auto step = [&](std::size_t k, Complex other) {
             value = value * root;
             value.re += c[k];
-            product = product * (root - z[other]);
+            product = product * (root - other);
         };
-        for (std::size_t k = 1; k <= i; ++k)
-            step(k, k - 1);
+        for (std::size_t k = 1; k < i; ++k)
+            step(k, z[k - 1]);
+        if (i > 0) step(i, moved);
         for (std::size_t k = i + 1; k < count; ++k)
-            step(k, k);
+            step(k, z[k]);
         value = value * root;
         value.re += c[count];
         if (isBelow && reaches(value, bound)) isBelow = false;
-        z[i] = root - value / product;
+        moved = root - value / product;
+        z[i] = moved;
     }
     return isBelow;
 }
 
 /// Notices when the roots come back to where they were, bit by bit: from then on sweeps repeat
-/// themselves for ever, and whole periods of them can be left out. The roots are remembered after
-/// 1, 2, 4, 8, ... sweeps, so that a period is found however late it starts (Brent's method).
+/// themselves for ever, and whole periods of them can be left out. The roots are remembered ever
+/// again, and for ever longer, so that a period is found however late it starts (Brent's method).
 class PeriodFinder {
   public:
+    /// Periods are found sooner where roots are remembered often, but only those that are short.
+    enum class Memory { often, afterPowersOfTwo };
+    explicit PeriodFinder(Memory memory) : memory_(memory) {}
+
     /// The period of the roots after `sweeps` sweeps, 0 as long as none is seen.
     std::int64_t period(const RootTable &z, int n, std::int64_t sweeps) {
         const auto count = static_cast<std::size_t>(n);
         if (rememberedAt_ > 0 && areSame(z, count)) return sweeps - rememberedAt_;
-        if (sweeps >= 2 * rememberedAt_) {
+        if (sweeps >= next_) {
             std::copy_n(z.begin(), count, remembered_.begin());
             rememberedAt_ = sweeps;
+            next_ = memory_ == Memory::often ? sweeps + sweeps / 4 + 4 : 2 * sweeps;
         }
         return 0;
     }
@@ -125,7 +135,9 @@ class PeriodFinder {
     }
 
     RootTable remembered_;
+    Memory memory_;
     std::int64_t rememberedAt_ = 0;
+    std::int64_t next_ = 1;
 };
 
 /// floor(budget) + 1 sweeps, none for a negative or NaN budget.
@@ -150,7 +162,9 @@ std::int64_t sweepLimit(int n) {
 bool iterate(RootTable &z, const double *c, int n, double bound, double budget) {
     const std::int64_t wanted = sweepsFor(budget);
     std::int64_t last = std::min(wanted, sweepLimit(n));
-    PeriodFinder finder;
+    // Whether a period is seen before the limit tells what is answered: that is to stay.
+    PeriodFinder finder(last == wanted ? PeriodFinder::Memory::often
+                                       : PeriodFinder::Memory::afterPowersOfTwo);
     for (std::int64_t made = 1; made <= last; ++made) {
         if (sweep(z, c, n, bound)) return true;
         const std::int64_t period = finder.period(z, n, made);
