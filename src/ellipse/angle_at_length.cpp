@@ -12,6 +12,24 @@ namespace {
 constexpr double kMostHalfTurns = 400.0;
 constexpr int kMostSteps = 8;
 
+/// The angle whose length is so much of a quarter as `mean` is of a right angle, radians. With
+/// n = (1 - b) / (1 + b), it leaves out terms like n^5.
+double roughAngle(double b, double mean) {
+    const double n = (1.0 - b) / (1.0 + b);
+    const double n2 = n * n;
+    const double sin2 = n * (1.0 / 2.0 - n2 * (9.0 / 32.0));
+    const double sin4 = n2 * (5.0 / 16.0 - n2 * (37.0 / 96.0));
+    const double sin6 = n2 * n * (29.0 / 96.0);
+    const double sin8 = n2 * n2 * (539.0 / 1536.0);
+    // Clenshaw: sin 2(k+1)m = 2 cos 2m sin 2km - sin 2(k-1)m.
+    const Rotation twice = Rotation::ofRadians(2.0 * mean);
+    const double c = 2.0 * twice.c;
+    const double third = sin6 + c * sin8;
+    const double second = sin4 + c * third - sin8;
+    const double first = sin2 + c * second - third;
+    return mean + twice.s * first;
+}
+
 } // namespace
 
 double lengthAt(const UnitSpeed &arc, double deg) {
@@ -34,8 +52,7 @@ std::optional<AngleAtLength> angleAtLength(const UnitSpeed &arc, double length, 
     const double wanted = std::fabs(offset);
     const double b = arc.b();
     const double focal2 = (1.0 - b) * (1.0 + b);
-    const double mean = kPi * wanted / halfTurn;
-    double rad = mean + 0.5 * (1.0 - b) / (1.0 + b) * std::sin(2.0 * mean);
+    double rad = std::clamp(roughAngle(b, kPi * wanted / halfTurn), 0.0, 0.5 * kPi);
     for (int i = 0; i < kMostSteps; ++i) {
         const Rotation u = Rotation::ofRadians(rad);
         const double rest = wanted - arc.lengthTo(u);

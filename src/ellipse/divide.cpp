@@ -4,7 +4,6 @@
 #include <memory>
 #include <new>
 
-#include "ellipse/cosine_series.h"
 #include "ellipse/frame.h"
 #include "ellipse/grid_sum.h"
 #include "ellipse/running_length.h"
@@ -26,8 +25,10 @@ constexpr std::int64_t kMostWalkedSteps = 1'440'000;
 constexpr std::int32_t kMostSoughtPieces = 1 << 16;
 /// A span above it, a hundred turns, is out of intervals without a walk.
 constexpr double kLongestSpanDeg = 36000.0;
-/// Above kLongestThinRangeDeg more terms, an axis below some fifth of the other, are the same.
-constexpr int kMostTermsOfManyTurns = 64;
+/// The same above kLongestThinRangeDeg where the shorter axis is less of the longer one.
+constexpr double kThinnestOfManyTurns = 0.2236;
+/// Steps in a thinner ellipse are not short beside its sharp ends.
+constexpr double kThinnestSought = 0x1p-10;
 /// Steps of the running sum in a piece, on average, from which on they are not walked.
 constexpr std::int64_t kStepsPerPiece = 64;
 /// A table of more entries counts as one that cannot be allocated.
@@ -92,26 +93,22 @@ void noteByWalking(const ArcSpeed &speed, const Steps &steps, Division &division
 
 /// The same without the walk. False where a number of pieces is not found, or pieces are so
 /// short that a step might pass over one.
-bool noteBySeries(const ArcSpeed &speed, const CosineSeries &series, const Steps &steps,
-                  Division &division) {
-    if (!series.isUsable() || division.n > kMostSoughtPieces) return false;
-    if (division.n * kStepsPerPiece > steps.count) return false;
-    const RunningLength running(speed, series, steps);
-    double after = steps.start;
+bool noteByIntegral(const ArcSpeed &speed, const GridSum &sum, const Steps &steps,
+                    Division &division) {
+    if (!(sum.isSized() && sum.unit().b() >= kThinnestSought)) return false;
+    if (division.n > kMostSoughtPieces || division.n * kStepsPerPiece > steps.count) return false;
+    const RunningLength running(speed, sum, steps);
     for (std::int32_t k = 1; k < division.n; ++k) {
-        const double guess = after + (steps.end - after) / (division.n - k + 1);
-        const auto i = running.firstReaching(k * division.piece, guess, after);
+        const auto i = running.firstReaching(k * division.piece);
         if (!i) return false;
-        after = steps.at(*i);
-        division.note(k, after);
+        division.note(k, steps.at(*i));
     }
     return true;
 }
 
-Integral lengthOf(const Arc &arc, const CosineSeries &series) {
-    const bool isThin = !series.isUsable() || series.terms() > kMostTermsOfManyTurns;
+Integral lengthOf(const Arc &arc, const GridSum &sum) {
+    const bool isThin = !(sum.isSized() && sum.unit().b() >= kThinnestOfManyTurns);
     if (isThin && arc.end - arc.start > kLongestThinRangeDeg) return {Refinement::outOfIntervals};
-    const GridSum sum(EllipseSpeed::arc, arc.a * 0.5, arc.b * 0.5);
     const Integral found = sum.integral(arc.start, arc.end);
     return found.outcome != Refinement::undecided ? found : sum.certain(arc.start, arc.end);
 }
@@ -124,13 +121,13 @@ std::int32_t divide(Division &division) {
     if (!(span <= kLongestSpanDeg)) return kOutOfIntervals;
 
     const ArcSpeed speed = ArcSpeed::of(arc.a * 0.5, arc.b * 0.5);
-    const CosineSeries series = CosineSeries::ofArcSpeed(arc.a * 0.5, arc.b * 0.5);
-    const Integral length = lengthOf(arc, series);
+    const GridSum sum(EllipseSpeed::arc, arc.a * 0.5, arc.b * 0.5);
+    const Integral length = lengthOf(arc, sum);
     division.piece = length.value / division.n;
     if (division.piece > 0.0 && std::isfinite(division.piece)) {
         const std::int64_t count = evenIntervals(span / kSmallestStepDeg);
         const Steps steps = {arc.start, arc.end, count, span / static_cast<double>(count)};
-        if (!noteBySeries(speed, series, steps, division)) {
+        if (!noteByIntegral(speed, sum, steps, division)) {
             if (count > kMostWalkedSteps) {
                 division.piece = 0.0;
                 division.clear();

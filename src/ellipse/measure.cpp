@@ -46,6 +46,26 @@ Range measuredRange(Range range) {
     return range.isWholeTurn() ? kWholeTurn : range;
 }
 
+/// Whether the ends are written 0 and 360 and have these as their polar angles. At 360 the sine is
+/// a rounding below 0, and so is the angle, unless an axis makes too much or nothing of it.
+bool isWrittenWhole(const DTELLIPSE &ellipse) {
+    constexpr double kLeastAxis = 0x1p-900;
+    constexpr double kMostRatio = 0x1p20;
+    return ellipse.start == 0.0 && ellipse.end == 360.0 && ellipse.a > kLeastAxis &&
+           ellipse.b > kLeastAxis && ellipse.a < ellipse.b * kMostRatio &&
+           ellipse.b < ellipse.a * kMostRatio;
+}
+
+/// From parameters to polar limits under an integrand of the parameter, on purpose: hosts have
+/// stored such lengths.
+Range measuredRange(const DTELLIPSE &ellipse) {
+    if (isWrittenWhole(ellipse)) return kWholeTurn;
+    const auto polar = [&ellipse](double parameterDeg) {
+        return polarOfParameter(ellipse.a, ellipse.b, parameterDeg);
+    };
+    return measuredRange(Range{polar(ellipse.start), polar(ellipse.end)});
+}
+
 } // namespace
 
 extern "C" {
@@ -79,11 +99,7 @@ int32_t ca_Simpson2(PLANEGEO_INTEGRAND integrand, double *lower, double *upper, 
 }
 
 int32_t ca_ElpLen(const DTELLIPSE *ellipse, double *length) {
-    // Polar limits under an integrand of the parameter, on purpose: hosts have stored such lengths.
-    const auto polar = [ellipse](double parameterDeg) {
-        return polarOfParameter(ellipse->a, ellipse->b, parameterDeg);
-    };
-    const Range range = measuredRange({polar(ellipse->start), polar(ellipse->end)});
+    const Range range = measuredRange(*ellipse);
     *length = measurerOf(EllipseSpeed::arc)(range.start, range.end).integral.value;
     return 0;
 }

@@ -2,7 +2,7 @@
 
 #include "ellipse/running_length.h"
 
-#include "ellipse/arc_length.h"
+#include "ellipse/angle_at_length.h"
 
 namespace planegeo {
 
@@ -10,8 +10,8 @@ namespace {
 
 /// Steps for one sample of the pass that settles, when it is the fourth or an earlier one.
 constexpr double kStepsPerSample = 125.0;
-/// A Newton step this short leaves less than a step of the sum.
-constexpr double kCloseDeg = 0.01;
+/// So much of a step of the slowest stretch is near enough to be found by single steps.
+constexpr double kCloseSteps = 0x1p-4;
 /// Terms of the sum that are taken one by one to reach the step from the inverse.
 constexpr int kMostPlainSteps = 16;
 
@@ -24,9 +24,9 @@ constexpr int kMostPlainSteps = 16;
 // (the midpoint rule and its alternating sister), so that
 //     R(i) = h/3 (f(start) + f(end)) + r(i) - r(0),
 //     r(i) = F(x_i) - h/3 (3h/24 f'(x_i) + (-1)^i / 2 f(x_i)).
-RunningLength::RunningLength(const ArcSpeed &speed, const CosineSeries &series, const Steps &steps)
-    : speed_(speed), steps_(steps), length_(series.sines([](int k) { return 0.5 / k; })),
-      weight_(series.weight()), third_(steps.h * kThirdRadPerDeg) {
+RunningLength::RunningLength(const ArcSpeed &speed, const GridSum &length, const Steps &steps)
+    : speed_(speed), steps_(steps), unit_(length.unit()), scale_(length.scale()),
+      endDeg_(length.endDeg()), third_(steps.h * kThirdRadPerDeg) {
     base_ = third_ * (speed_(steps.start) + speed_(steps.end)) - at(0);
 }
 
@@ -35,7 +35,7 @@ double RunningLength::at(std::int64_t i) const {
     const Rotation x = Rotation::ofDegrees(deg);
     const double f = speed_(x);
     const double alternating = i % 2 == 1 ? -0.5 * f : 0.5 * f;
-    return base_ + length_.at(deg, x, length_.terms) -
+    return base_ + scale_ * lengthAt(unit_, deg - endDeg_) -
            third_ * (0.375 * third_ * speed_.slope(x) + alternating);
 }
 
@@ -45,22 +45,23 @@ double RunningLength::summand(std::int64_t i) const {
 
 // In roundings u: adding up i terms costs the plain sum at most i/2 u of its value, adding up the
 // length that is divided one per sample of its last pass, their evaluation, the quotient and the
-// series some 64; the angle T of a sample 32T u of the weight. Of a term's q = 2kh below 0.01 the
-// expansions leave out less than h/3 |c_k| q^2 / 7.
+// integral some 64; the angle T of a sample 32T u of the longer half axis, which the speed and its
+// derivative do not exceed. The expansions leave out h/3 (-1)^i h^2/16 f'' and much less, and the
+// second derivative is at most a half axis in units of the other one, in units of the longer one.
 double RunningLength::slack(std::int64_t i, double length) const {
     const double farthest = (std::fabs(steps_.start) + std::fabs(steps_.end)) * kRadPerDeg;
     const double h = 3.0 * third_;
     const double additions =
         static_cast<double>(i) * 0.5 + static_cast<double>(steps_.count) / kStepsPerSample;
-    return kUnitRoundoff * ((additions + 64.0) * length + (64.0 + 32.0 * farthest) * weight_) +
-           third_ * h * h * 4.0 / 7.0 * weight_;
+    return kUnitRoundoff * ((additions + 64.0) * length + (64.0 + 32.0 * farthest) * scale_) +
+           third_ * h * h / 7.0 * (scale_ / unit_.b());
 }
 
-std::optional<std::int64_t> RunningLength::firstReaching(double length, double guessDeg,
-                                                         double afterDeg) const {
-    const double x = parameterAt(length - base_, length_, speed_, guessDeg, afterDeg, steps_.end,
-                                 kCloseDeg, length_.terms);
-    auto i = static_cast<std::int64_t>((x - steps_.start) / steps_.h);
+std::optional<std::int64_t> RunningLength::firstReaching(double length) const {
+    const double close = kCloseSteps * third_ * unit_.b();
+    const auto x = angleAtLength(unit_, (length - base_) / scale_, close);
+    if (!x) return std::nullopt;
+    auto i = static_cast<std::int64_t>((x->deg + endDeg_ - steps_.start) / steps_.h);
     i = i < 1 ? 1 : i >= steps_.count ? steps_.count - 1 : i;
     const double wanted = length - slack(i, length);
     double sum = at(i);

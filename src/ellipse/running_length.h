@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "ellipse/cosine_series.h"
+#include "ellipse/grid_sum.h"
 #include "ellipse/speed.h"
 
 namespace planegeo {
@@ -25,16 +25,15 @@ struct Steps {
 /// the first step.
 class RunningLength {
   public:
-    RunningLength(const ArcSpeed &speed, const CosineSeries &series, const Steps &steps);
+    RunningLength(const ArcSpeed &speed, const GridSum &length, const Steps &steps);
 
-    /// The first interior step i with R(i) >= length, if it lies beyond `afterDeg`. Nothing when
-    /// no step reaches the length, or the search does not see it.
+    /// The first interior step i with R(i) >= length. Nothing when no step reaches the length, or
+    /// the search does not see it.
     ///
     /// Where R(i) equals the length to within the rounding of the sum taken step by step, it
     /// counts as reached. By symmetry that is so at half of a whole turn, and at every point of
     /// a circle; there the plain sum takes this step or the next as its rounding has it.
-    std::optional<std::int64_t> firstReaching(double length, double guessDeg,
-                                              double afterDeg) const;
+    std::optional<std::int64_t> firstReaching(double length) const;
 
   private:
     double at(std::int64_t i) const;
@@ -43,9 +42,10 @@ class RunningLength {
 
     ArcSpeed speed_;
     Steps steps_;
-    SineSeries length_; ///< of the arc from 0
-    double weight_;
-    double third_; ///< h / 3 in radians
+    UnitSpeed unit_;
+    double scale_;  ///< the longer half axis
+    double endDeg_; ///< its end
+    double third_;  ///< h / 3 in radians
     double base_ = 0.0;
 };
 

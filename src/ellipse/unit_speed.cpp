@@ -66,6 +66,7 @@ template <const Polynomials &polynomials> OddDerivatives at(double factor, doubl
 ///     pi / 2M (a_1^2 - 2 c_2^2 - 4 c_3^2 - ...).
 /// The first c_n below kClose leaves M = a_n - c_n^2 / 4 a_n and no more terms.
 double quarterLength(double b) {
+    if (b < kFlatAxis) return 1.0;
     constexpr double kClose = 0x1p-14;
     double a = 0.5 * (1.0 + b);
     double g = std::sqrt(b);
@@ -175,6 +176,10 @@ Offset Offset::ofDegrees(double deg) {
     return {nearest, rest, Rotation::ofDegrees(rest)};
 }
 
+UnitSpeed::UnitSpeed(EllipseSpeed kind, double b)
+    : kind_(kind), b_(b),
+      halfTurn_(kind == EllipseSpeed::sector ? 0.5 * b * kPi : 2.0 * quarterLength(b)) {}
+
 OddDerivatives UnitSpeed::derivatives(Rotation u) const {
     const double b2 = b_ * b_;
     const double perG = 1.0 / square(u);
@@ -183,11 +188,6 @@ OddDerivatives UnitSpeed::derivatives(Rotation u) const {
     const double bend = (1.0 - b_) * (1.0 + b_) * (u.c * u.s); // r r'
     if (kind_ == EllipseSpeed::arc) return at<kOfArc>(bend * std::sqrt(perG), x, y);
     return at<kOfSector>(0.5 * bend * x, x, y);
-}
-
-double UnitSpeed::integralOfHalfTurn() const {
-    if (kind_ == EllipseSpeed::sector) return 0.5 * b_ * kPi;
-    return b_ < kFlatAxis ? 2.0 : 2.0 * quarterLength(b_);
 }
 
 double UnitSpeed::lengthTo(Rotation u) const { return lengthsFromEnd<1>(b_, {u.c}, {u.s})[0]; }
@@ -205,7 +205,7 @@ double UnitSpeed::integralBetween(const Offset &from, const Offset &to) const {
                                           {std::fabs(from.turn.s), std::fabs(to.turn.s)});
     const double part = std::copysign(length[1], to.turn.s) - std::copysign(length[0], from.turn.s);
     if (halfTurns == 0) return part;
-    return static_cast<double>(halfTurns) * integralOfHalfTurn() + part;
+    return static_cast<double>(halfTurns) * halfTurn_ + part;
 }
 
 } // namespace planegeo

@@ -31,7 +31,7 @@ struct Offset {
 /// Their singularities lie above and below those ends, artanh b away.
 class UnitSpeed {
   public:
-    UnitSpeed(EllipseSpeed kind, double b) : kind_(kind), b_(b) {}
+    UnitSpeed(EllipseSpeed kind, double b);
 
     EllipseSpeed kind() const { return kind_; }
     double b() const { return b_; }
@@ -39,13 +39,14 @@ class UnitSpeed {
     double square(Rotation u) const { return b_ * b_ * (u.c * u.c) + u.s * u.s; }
     OddDerivatives derivatives(Rotation u) const;
     double integralBetween(const Offset &from, const Offset &to) const;
-    double integralOfHalfTurn() const;
+    double integralOfHalfTurn() const { return halfTurn_; }
     /// Of the arc's speed, from an end of the longer axis to an angle of the first quadrant.
     double lengthTo(Rotation u) const;
 
   private:
     EllipseSpeed kind_;
     double b_;
+    double halfTurn_;
 };
 
 } // namespace planegeo
