@@ -55,7 +55,7 @@ double GridSum::sample(double deg) const {
 
 /// What a sum that starts or ends at an angle has beside the integral.
 double GridSum::correction(const Offset &at, double h) const {
-    const OddDerivatives f = unit_.derivatives(at.turn);
+    const OddDerivatives f = unit_.derivatives(at.turn, kCorrections);
     const double step2 = h * h * (kRadPerDeg * kRadPerDeg);
     double sum = 0.0;
     for (std::size_t k = kCorrections; k > 0; --k) {

@@ -14,14 +14,20 @@ constexpr double kLostWave = 0x1p-49;
 /// Terms of the hypergeometric series below it are left out.
 constexpr double kSmallTerm = 0x1p-60;
 constexpr int kMostTerms = 40;
+constexpr double kLongestStepDeg = 1.25;
 
 } // namespace
 
 TipWaves::TipWaves(const UnitSpeed &speed, double lo, double hi, bool isPeriodic)
-    : speed_(speed), lo_(lo), firstTip_(180.0 * std::floor(lo / 180.0) + 180.0) {
+    : speed_(speed), lo_(lo) {
+    if (decay(kLongestStepDeg) > kLost) return;
+    firstTip_ = 180.0 * std::floor(lo / 180.0) + 180.0;
     tips_ = isPeriodic ? static_cast<int>((hi - lo) / 180.0)
                        : static_cast<int>(std::ceil((hi - firstTip_) / 180.0));
 }
+
+/// The first wave in steps 2h has less than e^-decay of its factor, as r < e^-2b.
+double TipWaves::decay(double h) const { return 180.0 * speed_.b() / h; }
 
 /// Of the m-th waves of all tips, in steps of h degrees.
 double TipWaves::phaseSum(double h, int m) const {
@@ -59,15 +65,13 @@ Bounded TipWaves::wave(double k, double power) const {
 Bounded TipWaves::simpson(double h) const {
     if (tips_ <= 0) return {0.0, 0.0};
     const double b = speed_.b();
-    const double k = 90.0 / h;
-    const double decay = 2.0 * b * k; // r < e^-2b
-    if (decay > kLost) return {0.0, tips_ * b * kLostWave};
-    const double ratio = std::pow((1.0 - b) / (1.0 + b), k);
     Bounded sum = {0.0, tips_ * b * kLostWave};
+    if (decay(h) > kLost) return sum;
+    const double ratio = std::pow((1.0 - b) / (1.0 + b), 90.0 / h);
     double power = 1.0;
-    for (int m = 1; (m - 1) * decay <= kLost; ++m) {
+    for (int m = 1; (m - 1) * decay(h) <= kLost; ++m) {
         power *= ratio;
-        const Bounded one = wave(m * k, power);
+        const Bounded one = wave(m * 90.0 / h, power);
         sum.value += (m % 2 == 0 ? 1.0 : -1.0 / 3.0) * phaseSum(2.0 * h, m) * one.value;
         sum.uncertainty += tips_ * one.uncertainty;
     }

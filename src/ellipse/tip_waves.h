@@ -30,13 +30,14 @@ class TipWaves {
     Bounded simpson(double h) const;
 
   private:
+    double decay(double h) const;
     double phaseSum(double h, int m) const;
     Bounded wave(double k, double power) const;
 
     UnitSpeed speed_;
     double lo_;
-    double firstTip_;
-    int tips_;
+    double firstTip_ = 0.0;
+    int tips_ = 0; ///< 0 where no step sees them
 };
 
 } // namespace planegeo

@@ -18,7 +18,7 @@ constexpr double kFlatAxis = 0x1p-40;
 // Hence the (2k - 1)th derivative of r^p is r' r^(p-1) times a polynomial of degree k - 1 in
 // X = b^2 / r^4 and Y = v / r^2.
 
-/// kCoefficients[k - 1][i][j] is that of X^i Y^j.
+/// The coefficient [k - 1][i][j] is that of X^i Y^j in it.
 using Polynomials =
     std::array<std::array<std::array<double, kCorrections>, kCorrections>, kCorrections>;
 
@@ -45,20 +45,37 @@ constexpr Polynomials derivatives(int power) {
 constexpr Polynomials kOfArc = derivatives(1);
 constexpr Polynomials kOfSector = derivatives(-2);
 
-template <const Polynomials &polynomials> OddDerivatives at(double factor, double x, double y) {
-    OddDerivatives derivatives;
-    for (std::size_t k = 0; k < kCorrections; ++k) {
-        double sum = 0.0;
-        for (std::size_t i = k + 1; i-- > 0;) {
-            double row = 0.0;
-            for (std::size_t j = k - i + 1; j-- > 0;) {
-                row = row * y + polynomials[k][i][j];
-            }
-            sum = sum * x + row;
-        }
-        derivatives[k] = factor * sum;
+/// The sum over j >= J of the coefficients of X^I times y^(j - J); the last is not 0.
+template <const Polynomials &polynomials, std::size_t K, std::size_t I, std::size_t J>
+double row(double y) {
+    constexpr bool kIsLast = I + J == K || (I == 0 && polynomials[K][I][J + 1] == 0.0);
+    if constexpr (kIsLast) {
+        return polynomials[K][I][J];
+    } else {
+        return polynomials[K][I][J] + y * row<polynomials, K, I, J + 1>(y);
     }
-    return derivatives;
+}
+/// The sum over i >= I of row i times x^(i - I).
+template <const Polynomials &polynomials, std::size_t K, std::size_t I>
+double rows(double x, double y) {
+    const double here = row<polynomials, K, I, 0>(y);
+    if constexpr (I == K) {
+        return here;
+    } else {
+        return here + x * rows<polynomials, K, I + 1>(x, y);
+    }
+}
+
+template <const Polynomials &polynomials>
+OddDerivatives at(double factor, double x, double y, std::size_t count) {
+    OddDerivatives found = {
+        factor * rows<polynomials, 0, 0>(x, y), factor * rows<polynomials, 1, 0>(x, y),
+        factor * rows<polynomials, 2, 0>(x, y), factor * rows<polynomials, 3, 0>(x, y)};
+    if (count > kFewCorrections) {
+        found[4] = factor * rows<polynomials, 4, 0>(x, y);
+        found[5] = factor * rows<polynomials, 5, 0>(x, y);
+    }
+    return found;
 }
 
 /// The length of a quarter of the ellipse. With the means a_n, g_n that begin with 1 and b and end
@@ -83,29 +100,28 @@ double quarterLength(double b) {
     }
 }
 
-/// Carlson's R_F about the mean m of its arguments, from their relative distances.
-double firstIntegral(double m, double x, double y, double z) {
+/// Carlson's R_F from the relative distances of its arguments from their mean m, times sqrt m.
+double firstSeries(double x, double y, double z) {
     const double e2 = x * y - z * z;
     const double e3 = x * y * z;
     const double even = 1.0 + e2 * (-1.0 / 10.0 + e2 * (1.0 / 24.0 - e2 * (5.0 / 208.0)));
     const double odd =
         e3 * (1.0 / 14.0 + e2 * (-3.0 / 44.0 + e2 * (1.0 / 16.0)) + e3 * (3.0 / 104.0));
-    return (even + odd) / std::sqrt(m);
+    return even + odd;
 }
 
-/// Carlson's R_D, m being the mean of x, y and three z.
-double secondIntegral(double m, double x, double y, double z) {
+/// The same of R_D, times m sqrt m, m being the mean of x, y and three z.
+double secondSeries(double x, double y, double z) {
     const double xy = x * y;
     const double zz = z * z;
     const double e2 = xy - 6.0 * zz;
     const double e3 = (3.0 * xy - 8.0 * zz) * z;
     const double e4 = 3.0 * (xy - zz) * zz;
     const double e5 = xy * z * zz;
-    const double sum =
-        1.0 - e2 * (3.0 / 14.0) + e3 * (1.0 / 6.0) + e2 * e2 * (9.0 / 88.0 - e2 * (1.0 / 16.0)) -
-        e4 * (3.0 / 22.0) - e2 * e3 * (9.0 / 52.0) + e5 * (3.0 / 26.0) + e3 * e3 * (3.0 / 40.0) +
-        e2 * e4 * (3.0 / 20.0) + e2 * e2 * e3 * (45.0 / 272.0) - (e3 * e4 + e2 * e5) * (9.0 / 68.0);
-    return sum / (m * std::sqrt(m));
+    return 1.0 - e2 * (3.0 / 14.0) + e3 * (1.0 / 6.0) + e2 * e2 * (9.0 / 88.0 - e2 * (1.0 / 16.0)) -
+           e4 * (3.0 / 22.0) - e2 * e3 * (9.0 / 52.0) + e5 * (3.0 / 26.0) + e3 * e3 * (3.0 / 40.0) +
+           e2 * e4 * (3.0 / 20.0) + e2 * e2 * e3 * (45.0 / 272.0) -
+           (e3 * e4 + e2 * e5) * (9.0 / 68.0);
 }
 
 template <std::size_t N>
@@ -131,19 +147,24 @@ std::array<double, N> lengthsFromEnd(double b, const std::array<double, N> &cosi
     constexpr int kMostDuplications = 60;
     const double b2 = b * b;
     const double focal2 = (1.0 - b) * (1.0 + b);
-    std::array<double, N> x, y, z, sum = {};
-    for (std::size_t i = 0; i < N; ++i) {
-        x[i] = b2 * (cosines[i] * cosines[i]);
+    std::array<double, N> x, y, z, sum;
+    for (std::size_t i = 0; i < N; ++i) { // the first, two of whose roots are known
+        const double rx = b * cosines[i];
         y[i] = b2 + focal2 * (sines[i] * sines[i]);
-        z[i] = b2;
+        const double ry = std::sqrt(y[i]);
+        const double shift = rx * ry + b * (ry + rx);
+        sum[i] = 1.0 / (b * (b2 + shift));
+        x[i] = (rx * rx + shift) * 0.25;
+        y[i] = (y[i] + shift) * 0.25;
+        z[i] = (b2 + shift) * 0.25;
     }
-    double part = 1.0;
+    double part = 0.25;
     // x is the least and y the greatest of the three.
     const auto isWide = [&](std::size_t i) { return y[i] - x[i] > kClose * y[i]; };
-    for (int n = 0; n < kMostDuplications && (isWide(0) || isWide(N - 1)); ++n) {
+    for (int n = 1; n < kMostDuplications && (isWide(0) || isWide(N - 1)); ++n) {
         for (std::size_t i = 0; i < N; ++i) {
             const double rx = std::sqrt(x[i]), ry = std::sqrt(y[i]), rz = std::sqrt(z[i]);
-            const double shift = rx * ry + ry * rz + rz * rx;
+            const double shift = rx * ry + rz * (ry + rx);
             sum[i] += part / (rz * (z[i] + shift));
             x[i] = (x[i] + shift) * 0.25;
             y[i] = (y[i] + shift) * 0.25;
@@ -154,14 +175,16 @@ std::array<double, N> lengthsFromEnd(double b, const std::array<double, N> &cosi
     std::array<double, N> length;
     for (std::size_t i = 0; i < N; ++i) {
         const double m = (x[i] + y[i] + z[i]) * (1.0 / 3.0);
-        const double fx = 1.0 - x[i] / m, fy = 1.0 - y[i] / m;
+        const double perM = 1.0 / m;
+        const double fx = 1.0 - x[i] * perM, fy = 1.0 - y[i] * perM;
+        const double first = std::sqrt(perM) * firstSeries(fx, fy, -fx - fy);
         const double n = (x[i] + y[i] + 3.0 * z[i]) * 0.2;
-        const double dx = 1.0 - x[i] / n, dy = 1.0 - y[i] / n;
-        const double second =
-            3.0 * sum[i] + part * secondIntegral(n, dx, dy, (-dx - dy) * (1.0 / 3.0));
+        const double perN = 1.0 / n;
+        const double dx = 1.0 - x[i] * perN, dy = 1.0 - y[i] * perN;
+        const double second = 3.0 * sum[i] + part * perN * std::sqrt(perN) *
+                                                 secondSeries(dx, dy, (-dx - dy) * (1.0 / 3.0));
         const double s2 = sines[i] * sines[i];
-        length[i] = b2 * sines[i] *
-                    (firstIntegral(m, fx, fy, -fx - fy) + focal2 * (1.0 / 3.0) * s2 * second);
+        length[i] = b2 * sines[i] * (first + focal2 * (1.0 / 3.0) * s2 * second);
     }
     return length;
 }
@@ -180,14 +203,14 @@ UnitSpeed::UnitSpeed(EllipseSpeed kind, double b)
     : kind_(kind), b_(b),
       halfTurn_(kind == EllipseSpeed::sector ? 0.5 * b * kPi : 2.0 * quarterLength(b)) {}
 
-OddDerivatives UnitSpeed::derivatives(Rotation u) const {
+OddDerivatives UnitSpeed::derivatives(Rotation u, std::size_t count) const {
     const double b2 = b_ * b_;
     const double perG = 1.0 / square(u);
     const double x = b2 * (perG * perG);
     const double y = (1.0 + b2) * perG;
     const double bend = (1.0 - b_) * (1.0 + b_) * (u.c * u.s); // r r'
-    if (kind_ == EllipseSpeed::arc) return at<kOfArc>(bend * std::sqrt(perG), x, y);
-    return at<kOfSector>(0.5 * bend * x, x, y);
+    if (kind_ == EllipseSpeed::arc) return at<kOfArc>(bend * std::sqrt(perG), x, y, count);
+    return at<kOfSector>(0.5 * bend * x, x, y, count);
 }
 
 double UnitSpeed::lengthTo(Rotation u) const { return lengthsFromEnd<1>(b_, {u.c}, {u.s})[0]; }

@@ -14,6 +14,7 @@ enum class EllipseSpeed { arc, sector };
 
 /// Of the Euler-Maclaurin formula.
 inline constexpr std::size_t kCorrections = 6;
+inline constexpr std::size_t kFewCorrections = 4;
 /// The first, third, ... derivative of a speed by radians.
 using OddDerivatives = std::array<double, kCorrections>;
 
@@ -37,7 +38,8 @@ class UnitSpeed {
     double b() const { return b_; }
 
     double square(Rotation u) const { return b_ * b_ * (u.c * u.c) + u.s * u.s; }
-    OddDerivatives derivatives(Rotation u) const;
+    /// Of them kFewCorrections or kCorrections; those after are 0.
+    OddDerivatives derivatives(Rotation u, std::size_t count) const;
     double integralBetween(const Offset &from, const Offset &to) const;
     double integralOfHalfTurn() const { return halfTurn_; }
     /// Of the arc's speed, from an end of the longer axis to an angle of the first quadrant.
