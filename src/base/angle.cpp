@@ -12,8 +12,9 @@ double snappedDirectionRad(Vec2 v) {
     if (flatX && v.y > 0.0) return 1.5707963267948966;
     if (flatY && v.x < 0.0) return kPi;
     if (flatX && v.y < 0.0) return 4.71238898038469;
+    static constexpr double kTurn[] = {0.0, -kTwoPi}; // as in raisedIf()
     const double rad = std::atan2(v.y, v.x);
-    return rad < 0.0 ? rad + kTwoPi : rad;
+    return rad - kTurn[rad < 0.0];
 }
 
 double reducedByTurns(double deg) {

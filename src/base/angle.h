@@ -9,6 +9,17 @@
 
 namespace planegeo {
 
+/// An angle with a turn taken off, or added, where a condition holds that is anybody's guess: by a
+/// table, as compilers would branch. Zero is subtracted otherwise, which keeps the sign of a zero.
+inline double loweredIf(bool condition, double deg) {
+    static constexpr double kTurn[] = {0.0, 360.0};
+    return deg - kTurn[condition];
+}
+inline double raisedIf(bool condition, double deg) {
+    static constexpr double kTurn[] = {0.0, -360.0};
+    return deg - kTurn[condition];
+}
+
 /// Direction of a vector in degrees, [0, 360]; 0 for the zero vector.
 ///
 /// The rounded sum decides: -1e-300 degrees gives exactly 360, and later tests for exactly
@@ -16,7 +27,7 @@ namespace planegeo {
 inline double directionDeg(Vec2 v) {
     if (v.x == 0.0 && v.y == 0.0) return 0.0;
     const double deg = std::atan2(v.y, v.x) * kDegPerRad;
-    return deg < 0.0 ? deg + 360.0 : deg;
+    return raisedIf(deg < 0.0, deg);
 }
 
 /// How far a coarse direction may be from directionDeg().
@@ -78,17 +89,6 @@ double snappedDirectionRad(Vec2 v);
 /// of the angle's last place), so the exact remainder equals their result; a zero comes out
 /// positive, as from a subtraction. NaN for infinities.
 inline double remainderOfTurns(double deg) { return std::fmod(deg, 360.0) + 0.0; }
-
-/// An angle with a turn taken off, or added, where a condition holds that is anybody's guess: by a
-/// table, as compilers would branch. Zero is subtracted otherwise, which keeps the sign of a zero.
-inline double loweredIf(bool condition, double deg) {
-    static constexpr double kTurn[] = {0.0, 360.0};
-    return deg - kTurn[condition];
-}
-inline double raisedIf(bool condition, double deg) {
-    static constexpr double kTurn[] = {0.0, -360.0};
-    return deg - kTurn[condition];
-}
 
 /// Whether reducedDeg() leaves an angle as it is, apart from those just below 360.
 inline bool isReduced(double deg) { return 0.0 <= deg && deg <= kReducedMaxDeg; }

@@ -42,6 +42,7 @@ inline Vec2Pair twice(Vec2 v) { return pairOf(v, v); }
 
 inline Vec2Pair operator+(Vec2Pair v, Vec2Pair w) { return {v.x + w.x, v.y + w.y}; }
 inline Vec2Pair operator-(Vec2Pair v, Vec2Pair w) { return {v.x - w.x, v.y - w.y}; }
+inline Vec2Pair operator*(Vec2Pair v, double k) { return {v.x * k, v.y * k}; }
 inline Pair dot(Vec2Pair v, Vec2Pair w) { return v.x * w.x + v.y * w.y; }
 inline Pair cross(Vec2Pair v, Vec2Pair w) { return v.x * w.y - v.y * w.x; }
 

@@ -28,7 +28,7 @@ bool isClearTriangle(double cross, Vec2 side, Vec2 other) {
 /// The arc from p1 by p2 to p3, stored anticlockwise whichever way it turns. With s and t the
 /// sides p1p2 and p2p3, its centre is
 ///   p2 + left of (|t|^2 s + |s|^2 t) / (2 s x t).
-std::optional<Arc> arcThrough(Vec2 p1, Vec2 p2, Vec2 p3) {
+[[gnu::always_inline]] inline std::optional<Arc> arcThrough(Vec2 p1, Vec2 p2, Vec2 p3) {
     const Vec2 s = p2 - p1;
     const Vec2 t = p3 - p2;
     const double tolerance = distanceTolerance();
@@ -45,8 +45,10 @@ std::optional<Arc> arcThrough(Vec2 p1, Vec2 p2, Vec2 p3) {
     const Vec2 center = p2 + leftNormal(s * dot(t, t) + t * dot(s, s)) / (2.0 * turn);
     const double deg1 = directionDeg(p1 - center);
     const double deg3 = directionDeg(p3 - center);
-    const AngleRange range = turn > 0.0 ? AngleRange{deg1, deg3} : AngleRange{deg3, deg1};
-    return Arc{{center, hypotLength(p1 - center)}, range};
+    // Chosen as a pair, as compilers would branch on what is anybody's guess.
+    const Pair turns = {turn, turn};
+    const Pair ends = turns > 0.0 ? Pair{deg1, deg3} : Pair{deg3, deg1};
+    return Arc{{center, hypotLength(p1 - center)}, {ends[0], ends[1]}};
 }
 
 bool isWholeTurn(AngleRange range) { return std::fabs(range.end - range.start) > kStoredTurnDeg; }

@@ -3,6 +3,9 @@
 #include "circle/arc_query.h"
 
 #include <algorithm>
+#include <array>
+#include <limits>
+#include <utility>
 
 #include "base/settings.h"
 
@@ -46,19 +49,58 @@ struct Box {
     }
 };
 
+/// The axis directions from -360 to 360 degrees that a range holds, ends included: a bit for each,
+/// that of 0 degrees first.
+unsigned heldAxes(AngleRange range) {
+    if (!(range.start <= range.end)) return 0;
+    const auto nearest = [](double deg) { return static_cast<int>(deg / 90.0 + 4.5) - 4; };
+    const double start = smaller(larger(range.start, -361.0), 361.0);
+    const double end = smaller(larger(range.end, -361.0), 361.0);
+    int first = nearest(start), last = nearest(end);
+    first += 90.0 * first < start ? 1 : 0;
+    last -= 90.0 * last > end ? 1 : 0;
+    const unsigned quarters = (1U << (last + 5)) - (1U << (first + 4)); // that of -360 first
+    return (quarters | quarters >> 4 | quarters >> 8) & 15U;
+}
+
+/// How far an arc reaches from its centre by the axis directions that it holds, in radii; NaN,
+/// which widens nothing, where it holds none.
+struct Reach {
+    Vec2 low;
+    Vec2 high;
+
+    static constexpr Reach of(unsigned held) {
+        constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
+        constexpr Vec2 kAxes[] = {{1.0, 0.0}, {0.0, 1.0}, {-1.0, 0.0}, {0.0, -1.0}};
+        Reach reach = {{kNothing, kNothing}, {kNothing, kNothing}};
+        for (unsigned i = 0; i < 4; ++i) {
+            if ((held >> i & 1U) == 0) continue;
+            if (!(reach.low.x < kAxes[i].x)) reach.low.x = kAxes[i].x;
+            if (!(reach.low.y < kAxes[i].y)) reach.low.y = kAxes[i].y;
+            if (!(reach.high.x > kAxes[i].x)) reach.high.x = kAxes[i].x;
+            if (!(reach.high.y > kAxes[i].y)) reach.high.y = kAxes[i].y;
+        }
+        return reach;
+    }
+};
+
+template <std::size_t... held>
+constexpr std::array<Reach, sizeof...(held)> reaches(std::index_sequence<held...>) {
+    return {Reach::of(held)...};
+}
+
 /// The ends, and every axis direction in between. A start above the end holds none of these.
 Box extents(const Arc &arc) {
-    constexpr Vec2 kAxisDirections[] = {{1.0, 0.0}, {0.0, 1.0}, {-1.0, 0.0}, {0.0, -1.0}};
+    static constexpr auto kReaches = reaches(std::make_index_sequence<16>());
+    const auto [center, r] = arc.circle;
     Box box;
     box.widen(arc.circle.at(Rotation::ofDegrees(arc.range.start)));
     box.widen(arc.circle.at(Rotation::ofDegrees(arc.range.end)));
-    for (int quarter = -4; quarter <= 4; ++quarter) {
-        const double deg = 90.0 * quarter;
-        if (arc.range.start <= deg && deg <= arc.range.end) {
-            const Vec2 direction = kAxisDirections[(quarter + 4) % 4];
-            box.widen(arc.circle.center + arc.circle.r * direction);
-        }
-    }
+    unsigned held = heldAxes(arc.range);
+    if (r == 0.0 && held != 0) held = 1; // of zeros of either sign the first counts
+    const Reach &reach = kReaches[held];
+    box.widen(center + r * reach.low);
+    box.widen(center + r * reach.high);
     return box;
 }
 
@@ -67,8 +109,8 @@ Box extents(const Arc &arc) {
 bool isInOpenRange(double deg, AngleRange range) {
     const double first = range.start - kOnArcSlackDeg;
     const double last = range.end + kOnArcSlackDeg;
-    const auto isBetween = [&](double angle) { return first < angle && angle < last; };
-    return isBetween(deg) || isBetween(deg - 360.0) || isBetween(deg + 360.0);
+    const auto isBetween = [=](double angle) { return (first < angle) & (angle < last); };
+    return isBetween(deg) | isBetween(deg - 360.0) | isBetween(deg + 360.0);
 }
 
 } // namespace
@@ -95,7 +137,7 @@ int32_t ca_arcXY(const DTPOINT *center, double r, double start, double end, DTPO
 int32_t ca_onarc(const DTPOINT *center, double, double start, double end, const DTPOINT *point,
                  double *ang) {
     const double direction = directionDeg(load(point) - load(center));
-    const double deg = direction > 180.0 ? direction - 360.0 : direction;
+    const double deg = loweredIf(direction > 180.0, direction);
     *ang = deg;
     return isInOpenRange(deg, {start, end}) ? 0 : 1;
 }
