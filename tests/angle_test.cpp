@@ -135,6 +135,7 @@ TEST(ChkDegr, holdsBothEndsWithSlack) {
         {"start less twice the slack", 10, 20, 10 - 2e-8, 1},
         {"start at 0, angle just below 360", 0, 90, 360 - 0.5e-8, 0},
         {"end at 360, angle just above 0", 270, 360, 0.5e-8, 0},
+        {"end one slack below 360, angle at 0", 90, 359.99999999, 0, 0},
         {"a full circle holds all", 45, 45, 200, 0},
         {"360 is 0", 0, 90, 360, 0},
         {"angles are reduced", 370, -340, 735, 0},

@@ -220,11 +220,13 @@ bool holdsSnappedDirection(Vec2 v, double rotationDeg, const CoarseRange &ends, 
 /// Whether an arc given by any two angles holds a third.
 ///
 /// Within a turn it does where (angle - start)(end - angle)(end - start) is positive. No factor
-/// exceeds 360, so where the product is far from zero, each of them is far from kAngleSlackDeg.
+/// exceeds 360, so where the product is far from zero, each of them is far from kAngleSlackDeg; an
+/// angle near 360 might be as near to one at 0.
 inline bool isOnArc(double start, double end, double angle) {
     constexpr double kClearProduct = 360.0 * 360.0 * 2.0 * kAngleSlackDeg;
+    const auto isWithinTurn = [](double deg) { return 0.0 <= deg && deg <= 359.9999; };
     const double product = (angle - start) * (end - angle) * (end - start);
-    if (isReduced(start) && isReduced(end) && isReduced(angle) &&
+    if (isWithinTurn(start) && isWithinTurn(end) && isWithinTurn(angle) &&
         std::fabs(product) > kClearProduct) {
         return product > 0.0;
     }
