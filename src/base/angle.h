@@ -40,7 +40,7 @@ inline constexpr double kCoarseDeg = 0.04;
 inline Pair coarseDirectionDeg(Vec2Pair v) {
     constexpr Pair kNothing = {};
     const Pair x = magnitude(v.x), y = magnitude(v.y);
-    const Pair t = smaller(x, y) / larger(x, y);
+    const Pair t = smaller(x, y) / larger(y, x); // in these orders NaN for either being NaN
     const Pair t2 = t * t;
     Pair deg = ((4.545792279387551 * t2 - 16.540732298214937) * t2 + 57.02980992695602) * t;
     // Differences from 90, from 180 and from 360, or from nothing.
