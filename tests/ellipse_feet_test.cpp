@@ -300,6 +300,8 @@ TEST(PolarProjection, takesThePolarAngleForAParameter) {
     EXPECT_EQ(a2d_perle(&beside, &thin, &out), -1);
     EXPECT_EQ(out, kUntouchedPoint);
     EXPECT_EQ(a2d_perle(&beside, &kEllipse, &out), 0);
-    const DTELLIPSE quarter = {0, 7, -3, 10, 6, 0, 90, 1e-8};
+    DTELLIPSE quarter = {0, 7, -3, 10, 6, 0, 90, 1e-8};
     EXPECT_EQ(a2d_perle(&beside, &quarter, &out), 0) << "below its start by all of the slack";
+    quarter.rot = -360.00000001;
+    EXPECT_EQ(a2d_perle(&beside, &quarter, &out), 1) << "a turn and all of the slack beyond";
 }

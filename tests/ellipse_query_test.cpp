@@ -178,6 +178,7 @@ TEST(PolarRange, keepsItsOrderOfTests) {
         {"2e-8 above the end", 30, 60, 60 + 2e-8, 1},
         {"both ends near 0: all", 0.9e-6, -0.9e-6, 200, 0},
         {"one end not so near", 0, 2e-6, 200, 1},
+        {"a start of 1e-6 is not", 1e-6, -0.5e-6, 200, 1},
         {"across 0, above", 300, 30, 350, 0},
         {"across 0, below", 300, 30, 20, 0},
         {"across 0, between", 300, 30, 100, 1},
