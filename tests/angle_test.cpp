@@ -148,18 +148,6 @@ TEST(ChkDegr, holdsBothEndsWithSlack) {
     }
 }
 
-TEST(ChkDegr, holdsWhatLiesBetweenTheEnds) {
-    Random random(12);
-    for (int i = 0; i < 2000; ++i) {
-        const double start = random.uniform(-700.0, 700.0), span = random.uniform(0.1, 359.8);
-        const double turns = 360.0 * std::floor(random.uniform(-3.0, 3.0));
-        const double inside = start + span * random.uniform(0.0, 1.0) + turns;
-        const double outside = start + span + (360.0 - span) * random.uniform(0.01, 0.99) + turns;
-        EXPECT_EQ(a2d_ChkDegr(start, start + span, inside), 0) << start << " " << span;
-        EXPECT_EQ(a2d_ChkDegr(start, start + span, outside), 1) << start << " " << span;
-    }
-}
-
 TEST(GetBedeg, exchangesWhenTheSensesDiffer) {
     double start = kUntouched, end = kUntouched;
     a2d_GetBedeg(1, 1, 30, 60, &start, &end);

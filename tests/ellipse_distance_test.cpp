@@ -73,7 +73,8 @@ TEST(SampledDistance, isThatOfThePlainSteps) {
             e.end = random.uniform(-400, 800);
         }
         if (random.bits() % 3 == 0) {
-            e.start = std::floor(e.start), e.end = std::floor(e.end);
+            if (i % 2) e.start = std::floor(e.start);
+            e.end = e.start + std::floor(e.end - e.start); // rounded, as the samples before it are
         }
         const double a = e.a / 2, b = e.b / 2, t = random.angleDeg() * kRadPerDeg;
         const double evolute = (a - b) * (a + b), share = random.logUniform(1e-12, 10);

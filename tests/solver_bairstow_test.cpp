@@ -20,16 +20,6 @@ Answer bairstow(const std::vector<double> &c) {
     return answer;
 }
 
-std::vector<double> product(const std::vector<double> &a, const std::vector<double> &b) {
-    std::vector<double> c(a.size() + b.size() - 1);
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        for (std::size_t j = 0; j < b.size(); ++j) {
-            c[i + j] += a[i] * b[j];
-        }
-    }
-    return c;
-}
-
 /// The pairs with the second root of each complex factor made the conjugate of the first.
 std::vector<Root> mended(const std::vector<double> &out) {
     std::vector<Root> roots = pairs(out);
@@ -96,17 +86,15 @@ TEST(Bairstow, ordersFactorsLastFirstAndMirrorsTheSecondComplexRoot) {
 }
 
 TEST(Bairstow, takesASlightlyNegativeDiscriminantForReal) {
-    const std::vector<double> others = polynomialOf({-4, -3, -2, 2});
     for (const double discriminant : {-0.5e-4, -2e-4}) {
-        // (x + 1.5)^2 = discriminant / 4
-        const Answer got = bairstow(product(others, {1, 3, 2.25 - discriminant / 4}));
+        const double half = std::sqrt(-discriminant) / 2;
+        const Answer got = bairstow(polynomialOf({-4, -3, -2, 2, {-1.5, half}}));
         ASSERT_EQ(got.status, 0);
         const std::vector<Root> roots = pairs(got.out);
         const auto first = std::find_if(roots.begin(), roots.end(), [](Root root) {
             return std::fabs(root.real() + 1.5) < 0.1;
         });
         ASSERT_NE(first, roots.end());
-        const double half = std::sqrt(-discriminant) / 2;
         const Root want = discriminant > -1e-4 ? Root(-1.5 + half, 0) : Root(-1.5, half);
         EXPECT_LE(std::abs(*first - want), 1e-9) << discriminant;
     }
