@@ -39,7 +39,7 @@ TEST(ArcThroughPoints, runsAnticlockwiseAndKnowsNoArc) {
         int32_t status;
         Arc want;
     } const cases[] = {
-        {"anticlockwise", {5, 3}, {3, 5}, {1, 3}, 0, {{3, 3}, 2, {0, 180}}},
+        {"anticlockwise, small", {3.5, 3}, {3, 3.5}, {2.5, 3}, 0, {{3, 3}, 0.5, {0, 180}}},
         {"clockwise runs back", {1, 3}, {3, 5}, {5, 3}, 0, {{3, 3}, 2, {0, 180}}},
         {"across 0 keeps the start above", {3, 1}, {5, 3}, {3, 5}, 0, {{3, 3}, 2, {270, 90}}},
         {"slanted", {6, 7}, {0, 7}, {-1, 0}, 0, {{3, 3}, 5, {90 - up, 180 + up}}},
@@ -58,6 +58,7 @@ TEST(ArcThroughPoints, runsAnticlockwiseAndKnowsNoArc) {
     Arc got;
     EXPECT_EQ(arcThrough({1, 1}, {4, 1}, {7, 1 + 3.3e-4}, got), 0) << "one sine of 1.1e-4";
     EXPECT_EQ(arcThrough({1, 1}, {4, 1}, {1, 1 + 3.3e-4}, got), 0) << "two large sines";
+    EXPECT_EQ(arcThrough({1, 1}, {7, 1}, {4, 1 + 2.4e-4}, got), 0) << "that at p3 alone";
 }
 
 TEST(ArcOverChord, choosesTheSideAndRejectsWhatIsTooSmall) {
@@ -105,7 +106,7 @@ TEST(StoredAngles, keep360AndFindWholeTurns) {
         {90, 720, 0, 360},
         {360, 360, 360, 360}, // 360 stays, and equal angles are no circle
         {30, 30, 30, 30},
-        {0, 359.9999985, 0, 359.9999985},
+        {0, 359.999999, 0, 359.999999},
         {0, 359.9999995, 0, 360},
         {50, 49.9999995, 0, 360}, // whole once the end is raised
         {1e300, 1e300, 360, 360},

@@ -183,6 +183,12 @@ TEST(CrossArcs, touchWithinErrdistFromTheLargerCircle) {
         expectArcs(c.about, {{0, 0}, c.r1, {0, 0}}, {c.c2, c.r2, {0, 360}}, 0, c.want,
                    Without::untouched);
     }
+    const ToleranceGuard half(0.5); // itself too far
+    const Arc other = {{0.5, 0}, 1, {0, 360}};
+    expectArcs("from inside", {{0, 0}, 2, {0, 0}}, other, 0, {}, Without::untouched);
+    expectArcs("from outside", {{3, 0}, 1, {0, 0}}, other, 0, {}, Without::untouched);
+    const double s = std::sqrt(15.0) / 4;
+    expectArcs("of the centres", {{0, 0}, 1, {0, 0}}, other, 0, {{0.25, -s}, {0.25, s}});
 }
 
 TEST(CrossArcs, rejectIdenticalArcsAndBadRadii) {
@@ -192,16 +198,17 @@ TEST(CrossArcs, rejectIdenticalArcsAndBadRadii) {
         Arc other;
         int32_t status;
     } const cases[] = {
-        {"within errdist", {{1 + 0.5e-6, 1}, 2, {10, 20 + 0.5e-6}}, 1},
-        {"another end is another arc", {{1, 1}, 2, {10, 20 + 2e-6}}, 0},
-        {"another start", {{1, 1}, 2, {10 - 2e-6, 20}}, 0},
-        {"another radius", {{1, 1}, 2 + 2e-6, {10, 20}}, 0},
+        {"within errdist", {{1.24, 1}, 2, {10, 20.24}}, 1},
+        {"another end is another arc", {{1, 1}, 2, {10, 20.25}}, 0},
+        {"another start", {{1, 1}, 2, {9.75, 20}}, 0},
+        {"another radius", {{1, 1}, 2.25, {10, 20}}, 0},
         {"another centre", {{1, 9}, 2, {10, 20}}, 0},
         {"-350 is 10", {{1, 1}, 2, {-350, -340}}, 1},
         {"radius zero", {{5, 1}, 0, {10, 20}}, 1},
         {"radius negative", {{5, 1}, -2, {10, 20}}, 1},
     };
     for (const auto &c : cases) {
+        const ToleranceGuard quarter(0.25);
         expectArcs(c.about, one, c.other, c.status, {}, Without::untouched);
         expectArcs(c.about, c.other, one, c.status, {}, Without::untouched);
     }
