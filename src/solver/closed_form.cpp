@@ -59,7 +59,9 @@ class ShiftedCubic {
         if (discriminant > 0.0) {
             kind_ = Kind::oneReal;
             const double s = std::sqrt(discriminant);
-            first_ = cubeRoot(r + (r > 0.0 ? s : -s));
+            // The root of r + s or r - s, where it does not cancel; the sign can wait.
+            const double size = cubeRoot(std::fabs(r) + s);
+            first_ = r > 0.0 ? size : -size;
             second_ = q / first_;
         } else if (discriminant < 0.0) {
             kind_ = Kind::threeReal;
