@@ -79,18 +79,17 @@ template <class... Coefficients> Answer byOcct(Coefficients... c) {
 
 using Solve = int32_t(const double *, double *);
 
-template <std::size_t Degree>
-auto closedForm(Solve *solve, Answer (*read)(const double *, std::size_t)) {
-    return [solve, read](const Equation &in) {
-        double out[2 * Degree];
-        solve(in.c, out);
-        return read(out, Degree);
-    };
-}
+/// Known when compiled, as what the peers are asked is.
+template <std::size_t Degree, Solve *solve, Answer (*read)(const double *, std::size_t)>
+constexpr auto closedForm = [](const Equation &in) {
+    double out[2 * Degree];
+    solve(in.c, out);
+    return read(out, Degree);
+};
 
 const int kQuadratics[] = {
     Comparison("quadratic, all roots", equation)
-        .ours("amaSolveEquationOf2ndD", closedForm<2>(amaSolveEquationOf2ndD, allRoots))
+        .ours("amaSolveEquationOf2ndD", closedForm<2, amaSolveEquationOf2ndD, allRoots>)
         .peer("GSL", same,
               [](const Equation &in) {
                   gsl_complex z[2];
@@ -98,7 +97,7 @@ const int kQuadratics[] = {
                   return allRoots(z[0].dat, 2);
               }),
     Comparison("quadratic, real roots", equation)
-        .ours("amaSolveEquationOf2ndD", closedForm<2>(amaSolveEquationOf2ndD, realRoots))
+        .ours("amaSolveEquationOf2ndD", closedForm<2, amaSolveEquationOf2ndD, realRoots>)
         .peer("GSL", same,
               [](const Equation &in) {
                   double x[2];
@@ -135,7 +134,7 @@ template <class Roots> Answer boostRoots(const Roots &roots) {
 
 int cubicsAndQuartics() {
     Comparison("cubic, all roots", equation)
-        .ours("amaSolveEquationOf3rdD", closedForm<3>(amaSolveEquationOf3rdD, allRoots))
+        .ours("amaSolveEquationOf3rdD", closedForm<3, amaSolveEquationOf3rdD, allRoots>)
         .peer("GSL", same, [](const Equation &in) {
             gsl_complex z[3];
             gsl_poly_complex_solve_cubic(in.c[1] / in.c[0], in.c[2] / in.c[0], in.c[3] / in.c[0], z,
@@ -143,7 +142,7 @@ int cubicsAndQuartics() {
             return allRoots(z[0].dat, 3);
         });
     Comparison cubic("cubic, real roots", equation);
-    cubic.ours("amaSolveEquationOf3rdD", closedForm<3>(amaSolveEquationOf3rdD, realRoots))
+    cubic.ours("amaSolveEquationOf3rdD", closedForm<3, amaSolveEquationOf3rdD, realRoots>)
         .peer("GSL", same,
               [](const Equation &in) {
                   double x[3];
@@ -158,11 +157,11 @@ int cubicsAndQuartics() {
         .peer("OCCT", same,
               [](const Equation &in) { return byOcct(in.c[0], in.c[1], in.c[2], in.c[3]); });
     Comparison("quartic, all roots", equation)
-        .ours("amaSolveEquationOf4thD", closedForm<4>(amaSolveEquationOf4thD, allRoots))
+        .ours("amaSolveEquationOf4thD", closedForm<4, amaSolveEquationOf4thD, allRoots>)
         .peer("GSL", ascending<4>, byCompanionOfGsl<4>)
         .peer("Eigen", ascending<4>, byEigen<4>);
     Comparison quartic("quartic, real roots", equation);
-    quartic.ours("amaSolveEquationOf4thD", closedForm<4>(amaSolveEquationOf4thD, realRoots))
+    quartic.ours("amaSolveEquationOf4thD", closedForm<4, amaSolveEquationOf4thD, realRoots>)
         .peer("OCCT", same, [](const Equation &in) {
             return byOcct(in.c[0], in.c[1], in.c[2], in.c[3], in.c[4]);
         });

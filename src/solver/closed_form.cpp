@@ -30,11 +30,10 @@ double cubeRoot(double v) {
     return v < 0.0 ? -root : root;
 }
 
-Roots<2> quadraticRoots(const Polynomial<2> &c) {
-    if (c[0] == 0.0) return {{}, kNoLeadingCoefficient};
-    const Pair quotients = Pair{c[1], c[2]} / Pair{c[0], c[0]};
-    const double h = quotients[0] * 0.5;
-    const double discriminant = h * h - quotients[1];
+/// x^2 + b x + c = 0
+Roots<2> monicRoots(double b, double c) {
+    const double h = b * 0.5;
+    const double discriminant = h * h - c;
     if (discriminant > 0.0) {
         const double s = std::sqrt(discriminant);
         return {{real(s - h), real(-h - s)}, 2};
@@ -159,8 +158,7 @@ Roots<4> joined(const Roots<2> &a, const Roots<2> &b) {
 Roots<4> solveByFactors(const ShiftedQuartic &quartic, double z, double s) {
     const double middle = z / 2.0;
     const double spread = quartic.q / (2.0 * s);
-    return joined(quadraticRoots({1.0, s, middle - spread}),
-                  quadraticRoots({1.0, -s, middle + spread}));
+    return joined(monicRoots(s, middle - spread), monicRoots(-s, middle + spread));
 }
 
 /// The two roots of y^2 = w.
@@ -172,7 +170,7 @@ Roots<2> squareRoots(double w) {
 
 /// y^4 + p y^2 + r = 0; a linear term is ignored.
 Roots<4> solveBiquadratic(const ShiftedQuartic &quartic) {
-    const Roots<2> w = quadraticRoots({1.0, quartic.p, quartic.r});
+    const Roots<2> w = monicRoots(quartic.p, quartic.r);
     if (w.realCount == 2) return joined(squareRoots(w.root[0].re), squareRoots(w.root[1].re));
     // The second square is the conjugate of the first, and so is its root.
     const Complex s1 = squareRoot(w.root[0]);
@@ -204,7 +202,12 @@ Complex squareRoot(Complex z) {
     return {kSqrtHalf * std::fabs(z.im) / t, z.im < 0.0 ? -large : large};
 }
 
-Roots<2> solveQuadratic(const double *c) { return quadraticRoots(load<2>(c)); }
+Roots<2> solveQuadratic(const double *c) {
+    if (c[0] == 0.0) return {{}, kNoLeadingCoefficient};
+    const auto [lead, linear, constant] = load<2>(c);
+    const Pair quotients = Pair{linear, constant} / Pair{lead, lead};
+    return monicRoots(quotients[0], quotients[1]);
+}
 
 Roots<3> solveCubic(const double *c) {
     if (c[0] == 0.0) return {{}, kNoLeadingCoefficient};
