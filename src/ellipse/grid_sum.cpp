@@ -23,6 +23,8 @@ constexpr double kPrecise = 0x1p-43;
 
 /// So many steps from a singularity the first term left out is below B_14 / 14 10^-13 of a sample.
 constexpr double kFarSteps = 10.0;
+/// So many steps of the Simpson rule, whose coarser sum has twice as long ones.
+constexpr double kClearSteps = 14.0;
 /// Passes of so many steps are cheap enough to be summed sample by sample, which decides as the
 /// plain steps do where rounding does.
 constexpr std::int64_t kMostSampledSteps = 2048;
@@ -108,9 +110,50 @@ double GridSum::simpsonOfSamples(double lo, double hi, std::int64_t n) const {
     return (sample(lo) + sample(hi) + sum) * h * kPi / 540.0; // h / 3 in radians
 }
 
+/// An even number of steps from an end of a range, `deg` off a tip on the way in, until the
+/// expansions do: so many steps from the singularities all terms left out are some roundings.
+std::int64_t GridSum::stepsToClear(double deg, double h) const {
+    const double far = kClearSteps * h;
+    const double flank = unit_.b() * kDegPerRad;
+    if (flank >= far) return 0;
+    const double clear = std::sqrt((far - flank) * (far + flank));
+    if (std::fabs(deg) >= clear) return 0;
+    return 2 * static_cast<std::int64_t>(std::ceil((clear - deg) / (2.0 * h)));
+}
+
+/// A pass with samples where an end is near to a tip.
+Bounded GridSum::passOverTips(double lo, double hi, std::int64_t n) const {
+    const double h = (hi - lo) / static_cast<double>(n);
+    const std::int64_t first = stepsToClear(Offset::ofDegrees(lo - endDeg_).deg, h);
+    const std::int64_t last = stepsToClear(-Offset::ofDegrees(hi - endDeg_).deg, h);
+    if (first + last >= n) return {simpsonOfSamples(lo, hi, n), 0.0};
+    const double from = lo + static_cast<double>(first) * h;
+    const double to = hi - static_cast<double>(last) * h;
+    const Bounded middle = SimpsonPasses(unit_, from - endDeg_, to - endDeg_)(h);
+    double value = scale_ * middle.value;
+    if (first > 0) value += simpsonOfSamples(lo, from, first);
+    if (last > 0) value += simpsonOfSamples(to, hi, last);
+    return {value, scale_ * middle.uncertainty};
+}
+
 // In roundings: the sum over samples has n of its value for the additions, none of its terms
 // being negative; and for a term some 64, 32T for its angle, T being the larger limit. No speed of
 // the unit ellipse exceeds 1, nor does it change by more in a half turn.
+template <class Pass> GridSum::Refined GridSum::refined(double lo, double hi, Pass pass) const {
+    const double span = hi - lo;
+    const double farthest = (std::fabs(lo) + std::fabs(hi)) * kRadPerDeg;
+    const double ofTerms = scale_ * (64.0 + 32.0 * farthest) * (span * kRadPerDeg + 4.0);
+    Bounded last = {0.0, 0.0};
+    bool isPrecise = true;
+    const Integral found = refine(span, kNoLongestPass, [&](std::int64_t n) -> SimpsonSum {
+        last = pass(n);
+        isPrecise = last.uncertainty <= kPrecise * last.value;
+        const double roundings = static_cast<double>(n) * last.value + ofTerms;
+        return {last.value, kUnitRoundoff * roundings + last.uncertainty};
+    });
+    return {isPrecise ? found : Integral{Refinement::undecided}, isPrecise};
+}
+
 Integral GridSum::integral(double lo, double hi) const {
     const double span = hi - lo;
     const bool isNear = std::fabs(lo) <= kFarthestLimitDeg && std::fabs(hi) <= kFarthestLimitDeg;
@@ -119,18 +162,12 @@ Integral GridSum::integral(double lo, double hi) const {
         return {Refinement::undecided};
     }
     const SimpsonPasses passes(unit_, lo - endDeg_, hi - endDeg_);
-    const double farthest = (std::fabs(lo) + std::fabs(hi)) * kRadPerDeg;
-    const double ofTerms = scale_ * (64.0 + 32.0 * farthest) * (span * kRadPerDeg + 4.0);
-    double lastUncertainty = 0.0;
-    const Integral found = refine(span, kNoLongestPass, [&](std::int64_t n) -> SimpsonSum {
+    const Refined bare = refined(lo, hi, [&](std::int64_t n) -> Bounded {
         const Bounded sum = passes(span / static_cast<double>(n));
-        const double value = scale_ * sum.value;
-        const double rounding = kUnitRoundoff * (static_cast<double>(n) * value + ofTerms);
-        lastUncertainty = scale_ * sum.uncertainty;
-        return {value, rounding + lastUncertainty};
+        return {scale_ * sum.value, scale_ * sum.uncertainty};
     });
-    const bool isPrecise = lastUncertainty <= kPrecise * found.value;
-    return isPrecise ? found : Integral{Refinement::undecided};
+    if (bare.isPrecise) return bare.integral;
+    return refined(lo, hi, [&](std::int64_t n) { return passOverTips(lo, hi, n); }).integral;
 }
 
 Integral GridSum::certain(double lo, double hi) const {

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "ellipse/simpson.h"
+#include "ellipse/tip_waves.h"
 #include "ellipse/unit_speed.h"
 
 namespace planegeo {
@@ -47,6 +48,13 @@ class GridSum {
         double h; ///< degrees
         double at(std::int64_t i) const { return lo + static_cast<double>(i) * h; }
     };
+    struct Refined {
+        Integral integral;
+        bool isPrecise; ///< enough for the last pass
+    };
+    template <class Pass> Refined refined(double lo, double hi, Pass pass) const;
+    std::int64_t stepsToClear(double deg, double h) const;
+    Bounded passOverTips(double lo, double hi, std::int64_t n) const;
     double sample(double deg) const;
     double correction(const Offset &at, double h) const;
     double trapezoidsOfSamples(const Grid &grid, std::int64_t from, std::int64_t to) const;
