@@ -109,8 +109,7 @@ bool noteByIntegral(const ArcSpeed &speed, const GridSum &sum, const Steps &step
 Integral lengthOf(const Arc &arc, const GridSum &sum) {
     const bool isThin = !(sum.isSized() && sum.unit().b() >= kThinnestOfManyTurns);
     if (isThin && arc.end - arc.start > kLongestThinRangeDeg) return {Refinement::outOfIntervals};
-    const Integral found = sum.integral(arc.start, arc.end);
-    return found.outcome != Refinement::undecided ? found : sum.certain(arc.start, arc.end);
+    return sum.settled(arc.start, arc.end);
 }
 
 /// Divides an arc whose start is not above its end. Returns the code.

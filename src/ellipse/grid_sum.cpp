@@ -20,6 +20,11 @@ constexpr double kGreatestHalfAxis = 0x1p400;
 constexpr double kFarthestLimitDeg = 1000000.0;
 /// A sum known to less of its value is not told.
 constexpr double kPrecise = 0x1p-43;
+/// A longer integral is not accepted at once, nor does rounding below keep it from settling.
+constexpr double kClearlyLong = 4.0 * kSettledIntegral;
+constexpr double kClearRounding = 0.25 * kSettledIntegral;
+/// Of what settles, the least that a first pass is told to.
+constexpr double kRough = 0x1p-10;
 
 /// So many steps from a singularity the first term left out is below B_14 / 14 10^-13 of a sample.
 constexpr double kFarSteps = 10.0;
@@ -129,27 +134,30 @@ Bounded GridSum::passOverTips(double lo, double hi, std::int64_t n) const {
     if (first + last >= n) return {simpsonOfSamples(lo, hi, n), 0.0};
     const double from = lo + static_cast<double>(first) * h;
     const double to = hi - static_cast<double>(last) * h;
-    const Bounded middle = SimpsonPasses(unit_, from - endDeg_, to - endDeg_)(h);
+    const Bounded middle = SimpsonPasses(unit_, from - endDeg_, to - endDeg_)(h, kUnitRoundoff);
     double value = scale_ * middle.value;
     if (first > 0) value += simpsonOfSamples(lo, from, first);
     if (last > 0) value += simpsonOfSamples(to, hi, last);
     return {value, scale_ * middle.uncertainty};
 }
 
-// In roundings: the sum over samples has n of its value for the additions, none of its terms
-// being negative; and for a term some 64, 32T for its angle, T being the larger limit. No speed of
-// the unit ellipse exceeds 1, nor does it change by more in a half turn.
+/// The sum over samples has n of its value for the additions, none of its terms being negative; and
+/// for a term some 64, 32T for its angle, T being the larger limit. No speed of the unit ellipse
+/// exceeds 1, nor does it change by more in a half turn.
+double GridSum::roundings(double lo, double hi, std::int64_t n, double value) const {
+    const double farthest = (std::fabs(lo) + std::fabs(hi)) * kRadPerDeg;
+    const double ofTerms = (64.0 + 32.0 * farthest) * ((hi - lo) * kRadPerDeg + 4.0);
+    return kUnitRoundoff * (static_cast<double>(n) * value + scale_ * ofTerms);
+}
+
 template <class Pass> GridSum::Refined GridSum::refined(double lo, double hi, Pass pass) const {
     const double span = hi - lo;
-    const double farthest = (std::fabs(lo) + std::fabs(hi)) * kRadPerDeg;
-    const double ofTerms = scale_ * (64.0 + 32.0 * farthest) * (span * kRadPerDeg + 4.0);
     Bounded last = {0.0, 0.0};
     bool isPrecise = true;
     const Integral found = refine(span, kNoLongestPass, [&](std::int64_t n) -> SimpsonSum {
         last = pass(n);
         isPrecise = last.uncertainty <= kPrecise * last.value;
-        const double roundings = static_cast<double>(n) * last.value + ofTerms;
-        return {last.value, kUnitRoundoff * roundings + last.uncertainty};
+        return {last.value, roundings(lo, hi, n, last.value) + last.uncertainty};
     });
     return {isPrecise ? found : Integral{Refinement::undecided}, isPrecise};
 }
@@ -161,9 +169,20 @@ Integral GridSum::integral(double lo, double hi) const {
     if (!(unit_.b() >= kThinnestPasses && isLong && isNear && isSized())) {
         return {Refinement::undecided};
     }
-    const SimpsonPasses passes(unit_, lo - endDeg_, hi - endDeg_);
+    SimpsonPasses passes(unit_, lo - endDeg_, hi - endDeg_);
+    const std::int64_t first = evenIntervals(span);
+    const double secondStep = span / static_cast<double>(2 * first);
+    const double value = scale_ * passes.integral();
+    if (passes.isIntegral(secondStep) && value > kClearlyLong) {
+        // The second pass settles, or else the third at the same value.
+        const double rounding = roundings(lo, hi, 2 * first, value);
+        if (rounding < kClearRounding) return {Refinement::done, value, rounding, 0, 3 * first};
+    }
+    // The first pass only serves to see whether the second settles.
+    const double rough = std::fmax(kRough * kSettledIntegral / scale_, kUnitRoundoff);
     const Refined bare = refined(lo, hi, [&](std::int64_t n) -> Bounded {
-        const Bounded sum = passes(span / static_cast<double>(n));
+        const Bounded sum =
+            passes(span / static_cast<double>(n), n == first ? rough : kUnitRoundoff);
         return {scale_ * sum.value, scale_ * sum.uncertainty};
     });
     if (bare.isPrecise) return bare.integral;

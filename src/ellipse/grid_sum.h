@@ -40,6 +40,11 @@ class GridSum {
     /// The same by samples. The sums of longer passes are nearer to exact ones than those over
     /// samples, and decide for themselves.
     Integral certain(double lo, double hi) const;
+    /// The one or else the other.
+    Integral settled(double lo, double hi) const {
+        const Integral found = integral(lo, hi);
+        return found.outcome != Refinement::undecided ? found : certain(lo, hi);
+    }
 
   private:
     GridSum(EllipseSpeed speed, double halfFirst, double halfSecond, double a, double b);
@@ -52,6 +57,7 @@ class GridSum {
         Integral integral;
         bool isPrecise; ///< enough for the last pass
     };
+    double roundings(double lo, double hi, std::int64_t n, double value) const;
     template <class Pass> Refined refined(double lo, double hi, Pass pass) const;
     std::int64_t stepsToClear(double deg, double h) const;
     Bounded passOverTips(double lo, double hi, std::int64_t n) const;

@@ -100,7 +100,8 @@ int32_t ca_Simpson2(PLANEGEO_INTEGRAND integrand, double *lower, double *upper, 
 
 int32_t ca_ElpLen(const DTELLIPSE *ellipse, double *length) {
     const Range range = measuredRange(*ellipse);
-    *length = measurerOf(EllipseSpeed::arc)(range.start, range.end).integral.value;
+    const GridSum sum(EllipseSpeed::arc, halfFirst(), halfSecond());
+    *length = sum.settled(range.start, range.end).value;
     return 0;
 }
 

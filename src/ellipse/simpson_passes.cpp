@@ -48,8 +48,8 @@ double SimpsonPasses::leftOut(double h) const {
     return corrections_ == kFewCorrections ? size / 132.0 : size * ratio * ratio / 12.0;
 }
 
-Bounded SimpsonPasses::operator()(double hDeg) const {
-    const Bounded waves = waves_.simpson(hDeg);
+Bounded SimpsonPasses::operator()(double hDeg, double tolerance) {
+    const Bounded waves = waves_.simpson(hDeg, tolerance);
     if (isPeriodic_) return {integral_ + waves.value, waves.uncertainty};
     const double h = hDeg * kRadPerDeg;
     const double square = h * h;

@@ -25,8 +25,10 @@ class SimpsonPasses {
     SimpsonPasses(const UnitSpeed &speed, double lo, double hi);
 
     double integral() const { return integral_; }
-    /// The pass of steps h, degrees.
-    Bounded operator()(double h) const;
+    /// The pass of steps h, degrees. Of its waves those below a tolerance are left out.
+    Bounded operator()(double h, double tolerance);
+    /// Whether in such steps, and in shorter ones, it is the integral to rounding.
+    bool isIntegral(double h) const { return isPeriodic_ && waves_.areLost(h); }
 
   private:
     double leftOut(double h) const;

@@ -26,18 +26,28 @@ class TipWaves {
     /// Degrees from an end of the longer axis. With `isPeriodic` the range has whole half turns.
     TipWaves(const UnitSpeed &speed, double lo, double hi, bool isPeriodic);
 
-    /// What they add to the Simpson rule in steps of h degrees, below 1.25.
-    Bounded simpson(double h) const;
+    /// What they add to the Simpson rule in steps of h degrees, below 1.25; waves below a tolerance
+    /// are left out.
+    Bounded simpson(double h, double tolerance);
+    /// Whether they are all below rounding in such steps.
+    bool areLost(double h) const;
 
   private:
-    double decay(double h) const;
-    double phaseSum(double h, int m) const;
-    Bounded wave(double k, double power) const;
+    /// Longer ranges of thin ellipses are not measured.
+    static constexpr std::size_t kMostTips = 8;
+    using Cosines = std::array<double, kMostTips>;
+
+    void turnTo(double h);
+    double factor(double k) const;
+    Bounded wave(double k, double factor, double tolerance) const;
 
     UnitSpeed speed_;
     double lo_;
     double firstTip_ = 0.0;
-    int tips_ = 0; ///< 0 where no step sees them
+    std::size_t tips_ = 0; ///< 0 where no step sees them
+    double k_ = 0.0;       ///< of the last steps
+    double ratio_ = 0.0;   ///< r^k
+    Cosines cosines_ = {}; ///< of theta
 };
 
 } // namespace planegeo
