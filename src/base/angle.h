@@ -36,17 +36,17 @@ inline constexpr double kCoarseDeg = 0.04;
 /// directionDeg() of two vectors to within kCoarseDeg, where it is not that near to 0; for tests
 /// that it decides without an arc tangent. NaN where a vector is zero or not finite.
 ///
-/// The polynomial is that of least error for the arc tangent between 0 and 1, 0.035 degrees.
+/// Of a level vector it is atan(y / x), of a steep one -atan(x / y), and 90, 180, 270 or 360 more.
+/// The polynomial is that of least error for the arc tangent up to 1, 0.035 degrees.
 inline Pair coarseDirectionDeg(Vec2Pair v) {
     constexpr Pair kNothing = {};
     const Pair x = magnitude(v.x), y = magnitude(v.y);
-    const Pair t = smaller(x, y) / larger(y, x); // in these orders NaN for either being NaN
+    const Pair t = (y > x ? -v.x : v.y) / (y > x ? v.y : v.x);
+    Pair axis = y > x ? kNothing + 90.0 : kNothing;
+    axis = magnitude((v.x < 0.0 ? kNothing + 180.0 : kNothing) - axis);
+    axis = magnitude((v.y < 0.0 ? kNothing + 360.0 : kNothing) - axis);
     const Pair t2 = t * t;
-    Pair deg = ((4.545792279387551 * t2 - 16.540732298214937) * t2 + 57.02980992695602) * t;
-    // Differences from 90, from 180 and from 360, or from nothing.
-    deg = magnitude((y > x ? kNothing + 90.0 : kNothing) - deg);
-    deg = magnitude((v.x < 0.0 ? kNothing + 180.0 : kNothing) - deg);
-    return magnitude((v.y < 0.0 ? kNothing + 360.0 : kNothing) - deg);
+    return axis + t * ((4.545792279387551 * t2 - 16.540732298214937) * t2 + 57.02980992695602);
 }
 inline double coarseDirectionDeg(Vec2 v) { return coarseDirectionDeg(twice(v))[0]; }
 
@@ -129,9 +129,11 @@ struct AngleRange {
     /// An end before the start counts a turn later, and the range a turn lower where its end is
     /// then above 360.
     AngleRange wrapped() const {
-        const double last = raisedIf(start > end, end);
-        const bool isAbove = last > 360.0;
-        return {loweredIf(isAbove, start), loweredIf(isAbove, last)};
+        constexpr Pair kTurn = {360.0, 360.0};
+        const Pair starts = {start, start}, ends = {end, end};
+        const Pair lasts = ends - (starts > ends ? -kTurn : Pair{});
+        const Pair range = Pair{start, lasts[1]} - (lasts > 360.0 ? kTurn : Pair{});
+        return {range[0], range[1]};
     }
 
     /// A normalised range that lacks less than kAngleSlackDeg of a turn holds every angle.
@@ -169,11 +171,24 @@ struct AngleRange::Normalised {
 };
 
 inline AngleRange::Normalised AngleRange::normalised(double start, double end) {
-    start = reducedDeg(start);
-    end = reducedDeg(end);
+    if (!(0.0 <= smaller(start, end) && larger(start, end) <= kReducedMaxDeg)) {
+        start = reducedByTurns(start);
+        end = reducedByTurns(end);
+    }
     const bool equal = std::fabs(end - start) < kAngleSlackDeg;
     if (equal) end = start + 360.0;
     return {AngleRange{start, end}.wrapped(), equal};
+}
+
+/// reducedKeeping360() of both ends.
+inline AngleRange reducedKeeping360(AngleRange range) {
+    constexpr Pair kTurn = {360.0, 360.0};
+    if (!(-360.0 < smaller(range.start, range.end) && larger(range.start, range.end) < 720.0)) {
+        return {keeping360ByTurns(range.start), keeping360ByTurns(range.end)};
+    }
+    const Pair given = {range.start, range.end};
+    const Pair ends = given - (given < 0.0 ? -kTurn : Pair{}) - (given > 360.0 ? kTurn : Pair{});
+    return {ends[0], ends[1]};
 }
 
 /// Whether a component is so short that snappedDirectionRad() counts it as zero.

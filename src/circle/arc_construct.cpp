@@ -58,8 +58,7 @@ bool isWholeTurn(AngleRange range) { return std::fabs(range.end - range.start) >
 AngleRange storedRange(AngleRange range) {
     constexpr AngleRange kFullCircle = {0.0, 360.0};
     if (isWholeTurn(range)) return kFullCircle;
-    range = {reducedKeeping360(range.start), reducedKeeping360(range.end)};
-    range = range.wrapped();
+    range = reducedKeeping360(range).wrapped();
     if (isWholeTurn(range)) return kFullCircle;
     return range;
 }

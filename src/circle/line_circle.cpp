@@ -33,37 +33,11 @@ struct LiteralArc {
     }
 };
 
-/// Which of two points are kept, positive numbers, where all is clear of every tolerance.
-struct KeptOfTwo {
-    Pair told = {1.0, 1.0};
-    Pair kept = {1.0, 1.0};
-
-    KeptOfTwo(Keep keep, const Segment &line, const Circle &circle, AngleRange range,
-              Vec2Pair points) {
-        if (asksForArc(keep)) {
-            const LiteralArc arc(range);
-            if (!arc.isFull) {
-                const CoarseLook look(points - twice(circle.center), arc.first, arc.last);
-                told = look.told;
-                kept = look.inside;
-            }
-        }
-        if (asksForSegment(keep)) {
-            const SegmentLook<Vec2Pair> look(twice(line.direction()), points - twice(line.start));
-            const Pair on = look.onLine > 0.0 ? look.inside : Pair{};
-            const Pair either = larger(on, look.outside);
-            told = told > 0.0 ? either : Pair{};
-            told = longestTold() > look.longer ? told : Pair{};
-            kept = on > 0.0 ? kept : Pair{};
-        }
-    }
-
-    bool isTold() const { return told[0] > 0.0 && told[1] > 0.0; }
+/// Where a line cuts a circle.
+struct Cuts {
+    Vec2Pair points;
+    Vec2Pair offsets; ///< from the centre, times |d|^2
 };
-
-inline bool isRefused(const Segment &line, const Circle &circle) {
-    return circle.r <= 0.0 || isWithinBox(line.direction(), distanceTolerance());
-}
 
 /// How a line passes a circle.
 struct Passage {
@@ -83,15 +57,57 @@ struct Passage {
     ///   c + (D left of d +- s d) / |d|^2,  D = q x p,  s^2 = r^2 |d|^2 - D^2.
     /// Kept in this form: it is exact on a grid, and whether a point lies at the very end of an arc
     /// hangs on its last bits.
-    Vec2Pair cuts(const Segment &line, const Circle &circle) const {
+    Cuts cuts(const Segment &line, const Circle &circle) const {
         const double D = cross(line.end - circle.center, line.start - circle.center);
         const double s = std::sqrt(circle.r * circle.r * squared - D * D);
         const Vec2 toFoot = leftNormal(along) * D;
         const Vec2 ahead = along * s;
-        const Vec2Pair cut = twice(toFoot) + pairOf(ahead, -ahead);
-        return Vec2Pair{cut.x / squared, cut.y / squared} + twice(circle.center);
+        const Vec2Pair offset = twice(toFoot) + pairOf(ahead, -ahead);
+        return {Vec2Pair{offset.x / squared, offset.y / squared} + twice(circle.center), offset};
+    }
+
+    /// Whether the offsets, which are known before the points, tell the points' directions from the
+    /// centre to 0.001 degrees: what the centre's coordinates round away is no part of the radius.
+    bool tellsDirections(const Circle &circle) const {
+        constexpr double kFarFromUnderflow = 0x1p-300;
+        const double farthest = 0x1p36 * circle.r;
+        return circle.r > kFarFromUnderflow && squared > kFarFromUnderflow &&
+               std::fabs(circle.center.x) < farthest && std::fabs(circle.center.y) < farthest;
     }
 };
+
+/// Which of two points are kept, positive numbers, where all is clear of every tolerance.
+struct KeptOfTwo {
+    Pair told = {1.0, 1.0};
+    Pair kept = {1.0, 1.0};
+
+    KeptOfTwo(Keep keep, const Segment &line, AngleRange range, const Cuts &cuts,
+              bool offsetsTell) {
+        if (asksForArc(keep)) {
+            const LiteralArc arc(range);
+            if (!arc.isFull) {
+                const CoarseLook look(cuts.offsets, arc.first, arc.last);
+                told = offsetsTell ? look.told : Pair{};
+                kept = look.inside;
+            }
+        }
+        if (asksForSegment(keep)) {
+            const SegmentLook<Vec2Pair> look(twice(line.direction()),
+                                             cuts.points - twice(line.start));
+            const Pair on = look.onLine > 0.0 ? look.inside : Pair{};
+            const Pair either = larger(on, look.outside);
+            told = told > 0.0 ? either : Pair{};
+            told = longestTold() > look.longer ? told : Pair{};
+            kept = on > 0.0 ? kept : Pair{};
+        }
+    }
+
+    bool isTold() const { return told[0] > 0.0 && told[1] > 0.0; }
+};
+
+inline bool isRefused(const Segment &line, const Circle &circle) {
+    return circle.r <= 0.0 || isWithinBox(line.direction(), distanceTolerance());
+}
 
 /// crossLineArc() of a line with a direction and a circle with a radius.
 PointPair keptOf(const Passage &passage, Keep keep, const Segment &line, const Circle &circle,
@@ -100,7 +116,7 @@ PointPair keptOf(const Passage &passage, Keep keep, const Segment &line, const C
     if (passage.gap >= tolerance) return {};
     PointPair points = {{passage.foot}, 1};
     if (!(std::fabs(passage.gap) < tolerance)) {
-        const Vec2Pair cuts = passage.cuts(line, circle);
+        const Vec2Pair cuts = passage.cuts(line, circle).points;
         points = {{cuts.at(0), cuts.at(1)}, 2};
     }
     if (asksForArc(keep)) {
@@ -134,11 +150,11 @@ int32_t answerLineArc(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *cente
     const Passage passage(line, circle);
     if (!isRefused(line, circle) && passage.gap < tolerance &&
         !(std::fabs(passage.gap) < tolerance)) {
-        const Vec2Pair cuts = passage.cuts(line, circle);
-        const KeptOfTwo look(keep, line, circle, range, cuts);
+        const Cuts cuts = passage.cuts(line, circle);
+        const KeptOfTwo look(keep, line, range, cuts, passage.tellsDirections(circle));
         if (look.isTold()) {
             *count = static_cast<uint16_t>(
-                storeKept(cuts, look.kept[0] > 0.0, look.kept[1] > 0.0, out1, out2));
+                storeKept(cuts.points, look.kept[0] > 0.0, look.kept[1] > 0.0, out1, out2));
             return 0;
         }
     }

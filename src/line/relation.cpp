@@ -35,9 +35,9 @@ extern "C" {
 int32_t ca_posln(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *p, uint16_t *side) {
     const Segment line = load(a1, a2);
     const double tolerance = distanceTolerance();
-    if (isWithinBox(line.start - line.end, tolerance)) return 1;
-    // The raw cross product on purpose, not the distance.
     const Vec2 direction = line.direction();
+    if (isWithinBox(direction, tolerance)) return 1;
+    // The raw cross product on purpose, not the distance.
     const Vec2 toPoint = load(p) - line.start;
     const double turn = toPoint.y * direction.x - toPoint.x * direction.y;
     const uint16_t besideLine = turn > 0.0 ? 65535 : 1;
