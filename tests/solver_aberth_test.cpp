@@ -73,6 +73,15 @@ TEST(DKA, makesOneSweepMoreThanItsBudgetSays) {
     EXPECT_EQ(dka(c, 1e-12, -kInfinity).out, none);
 }
 
+// Of x^2 + 1 the first values are 1 + 4i, whose modulus is 4.123.
+TEST(DKA, measuresValuesByTheirModulus) {
+    for (const double bound : {3.9, 4.01, 4.12, 4.13, 8.1}) {
+        const bool isFirstSweepLast =
+            dka({1, 0, 1}, bound, 500).out == dka({1, 0, 1}, bound, 0).out;
+        EXPECT_EQ(isFirstSweepLast, bound > 4.125) << bound;
+    }
+}
+
 TEST(DKA, answersForDegreesAtTheEnds) {
     EXPECT_EQ(dka({2, 3}, 1e-12, 500).out, (std::vector<double>{-1.5, 0}));
     EXPECT_EQ(dka({2, 3}, 1e-12, -1).out, (std::vector<double>{0, 0})); // the circle is a point
