@@ -57,6 +57,8 @@ Range range(Random &random) {
         return {lo, lo + random.uniform(360.0, 900.0)};
     case 4:
         return {whole, whole + std::floor(random.uniform(0, 400))};
+    case 5: // near to the end of an axis
+        return {90.0 * std::floor(lo / 90.0) + random.logUniform(1e-6, 20), 400 + lo};
     default:
         return {lo, lo + random.uniform(0, 360)};
     }
@@ -82,7 +84,7 @@ Result integrated(PLANEGEO_INTEGRAND integrand, Range r) {
 TEST(PlainAgreement, lengthsAndAreas) {
     Random random(7001);
     for (int i = 0; i < 1500; ++i) {
-        const HalfAxes half = axes(random, i % 50 == 0 ? 1e6 : 6.0);
+        const HalfAxes half = axes(random, i % 50 == 0 ? 1e6 : i % 3 == 0 ? 100.0 : 6.0);
         const Range r = range(random);
         SCOPED_TRACE(testing::Message()
                      << half.first << " " << half.second << " over " << r.lo << " " << r.hi);
@@ -142,7 +144,8 @@ TEST(PlainAgreement, searches) {
     Random random(7004);
     for (int i = 0; i < 300; ++i) {
         const double a = random.logUniform(0.01, 1e4);
-        const HalfAxes half = {a, a * (i % 60 == 7 ? 1e-3 : random.logUniform(0.2, 5.0))};
+        const double ratio = random.logUniform(0.2, 5.0);
+        const HalfAxes half = {a, a * (i % 60 == 7 ? 1e-3 : i % 5 == 0 ? 0.1 * ratio : ratio)};
         const HalfAxesGuard stored(half.first, half.second);
         const double start = random.uniform(-100, 300);
         DTELLIPSE got = {0, 3, 4, 1, 1, start, start + random.uniform(1, 360), 30};

@@ -39,19 +39,21 @@ class LengthForecast {
     double moved(const Limits &range) const { return movesLower_ ? range.lo : range.hi; }
     double fromGoal(const Limits &range) const;
     Band speedWithin(double rad) const;
+    double offIntegral(double span) const;
+    double rounding(const Limits &range) const;
     double slack(const Limits &range) const;
     bool tells(const Limits &range) const;
 
     bool isUsable_ = false;
     bool movesLower_ = false;
     double goalDeg_ = 0.0; ///< t*
-    double missing_ = 0.0; ///< of the wanted length there, at most
     double atGoal_ = 0.0;  ///< the speed
     double slowest_ = 0.0;
     double fastest_ = 0.0;
     double longestDeg_ = 0.0;
-    double passLength_ = 0.0;  ///< steps per degree of the longest pass
-    double fourthOrder_ = 0.0; ///< by which a pass of steps h differs from the integral, per h^4
+    double passLength_ = 0.0; ///< steps per degree of the longest pass
+    double ofEnds_ = 0.0;     ///< what h^4 of a pass, degrees, leaves of the integral
+    double ofHalfTurn_ = 0.0; ///< the same in each half turn
 };
 
 } // namespace planegeo

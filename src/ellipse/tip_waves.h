@@ -18,8 +18,9 @@ struct Bounded {
 /// which is what the sum has beside the integral, passes round the cut above the tip. With
 /// k = pi m / h, r = (1 - b) / (1 + b) and theta = 2 pi (t - lo) / h that is
 ///     -4 J(k) cos m theta    with the arc's speed,    pi b r^k cos m theta    with the sector's,
-/// J(k) being the integral of sqrt(sin^2 iy + ...) e^(-2ky) along the cut,
-///     J(k) = sqrt(pi b) / 4 Gamma(k - 1/2) / Gamma(k + 1) r^k F(-1/2, 3/2; k + 1; -X),
+/// where J is, along the cut from the singularity d = artanh b above the tip on,
+///     J(k) = integral of sqrt((1 - b^2) (sinh^2 y - sinh^2 d)) e^(-2ky) dy
+///          = sqrt(pi b) / 4 Gamma(k - 1/2) / Gamma(k + 1) r^k F(-1/2, 3/2; k + 1; -X),
 ///     X = (1 - b)^2 / 4b.
 class TipWaves {
   public:
