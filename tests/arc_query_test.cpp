@@ -37,6 +37,8 @@ TEST(ArcBox, takesInTheAxisDirectionsOfTheRange) {
         EXPECT_TRUE(near(min, shifted(c.min), 8 * kEpsilon)) << c.start << ", " << c.end;
     }
     DTPOINT max, min;
+    ca_arcXY(&kCenter, 0, 10, 100, &max, &min);
+    EXPECT_EQ(max, kCenter) << "no radius";
     ca_arcXY(&kCenter, kNaN, 0, 90, &max, &min);
     EXPECT_EQ(max, (DTPOINT{-1e20, -1e20}));
     EXPECT_EQ(min, (DTPOINT{1e20, 1e20}));

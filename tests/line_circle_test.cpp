@@ -65,6 +65,30 @@ TEST(LineCircle, doesNotCheckItsInput) {
     EXPECT_EQ(lineCircle({-5, 0}, {5, 0}, 0).count, 1);
 }
 
+TEST(LineArc, keepsPointsOfCirclesOfAnySizeAnywhere) {
+    const ToleranceGuard fine(1e-120);
+    struct {
+        const char *about;
+        DTPOINT center;
+        double r, start, end;
+        double side; ///< of the centre, where the point lies that is kept
+    } const cases[] = {
+        {"a centre far beyond the radius", {1e12, 0}, 1, 90, 270, -1},
+        {"far up", {0, -1e12}, 1, 90, 270, -1},
+        {"a radius next to nothing", {0, 0}, 1e-92, 90, 270, -1},
+        {"a start that is not reduced", {0, 0}, 2, 1000, 10, 1},
+    };
+    for (const auto &c : cases) {
+        const DTPOINT a1 = {c.center.x - 4, c.center.y}, a2 = {c.center.x + 4, c.center.y};
+        const double angles[] = {c.start, c.end};
+        DTPOINT p, q;
+        uint16_t count = 9;
+        EXPECT_EQ(a2d_lin_arc(3, &a1, &a2, &c.center, c.r, angles, &p, &q, &count), 0) << c.about;
+        ASSERT_EQ(count, 1) << c.about;
+        EXPECT_EQ(p, (DTPOINT{c.center.x + c.side * c.r, c.center.y})) << c.about;
+    }
+}
+
 TEST(LineArc, keepsByArcAndSegment) {
     const double h = std::sqrt(3.0);        // x = 1 on the circle of radius 2
     const double s = 1e-8 * kRadPerDeg * 2; // 1e-8 degrees on it

@@ -37,6 +37,9 @@ TEST(OnLine, asksTheEndsFirstThenLengthDistanceAndExtent) {
     }
     const ToleranceGuard none(0.0);
     EXPECT_EQ(a2d_onlin(&kA, &kB, &kA), 1) << "nothing is on a line within no tolerance";
+    const ToleranceGuard boundless(1e200);
+    const DTPOINT far = fromA({-1e150, 7});
+    EXPECT_EQ(a2d_onlin(&kA, &kB, &far), 0) << "all is within a tolerance of any length";
 }
 
 TEST(SideOfLine, comparesTheRawCrossProduct) {
