@@ -129,14 +129,16 @@ int32_t a2d_insl1(const DTPOINT *p1, const DTPOINT *p2, const DTPOINT *center, d
     if (crossing.isRefused) return -1;
 
     const ParameterRange arc(ellipse, rot, ends);
-    const auto holds = [&](Vec2 stretched, Vec2 offset) {
-        const auto told = isSnapped(offset) ? std::nullopt : arc.holds(stretched);
-        return told ? *told : isOnSnappedArc(offset, ellipse, rot, ends);
+    const auto [told, inside] = arc.look(pairOf(crossing.first, crossing.second));
+    const auto holds = [&, told = told, inside = inside](int i, Vec2 offset) {
+        if (arc.isWholeTurn()) return true;
+        const bool isTold = told[i] > 0.0 && !isSnapped(offset);
+        return isTold ? inside[i] > 0.0 : isOnSnappedArc(offset, ellipse, rot, ends);
     };
-    const Vec2 first = crossing.offset(crossing.first, ellipse),
-               second = crossing.offset(crossing.second, ellipse);
-    const bool hasFirst = crossing.count > 0 && holds(crossing.first, first);
-    const bool hasSecond = crossing.count > 1 && holds(crossing.second, second);
+    const Vec2 first = crossing.offset(crossing.first, ellipse);
+    const Vec2 second = crossing.offset(crossing.second, ellipse);
+    const bool hasFirst = crossing.count > 0 && holds(0, first);
+    const bool hasSecond = crossing.count > 1 && holds(1, second);
     *count = static_cast<uint16_t>((hasFirst ? 1 : 0) + (hasSecond ? 1 : 0));
     const Vec2 kept = hasFirst ? first : second;
     store(hasFirst || hasSecond ? kept + ellipse.center : kMissing, out1);
