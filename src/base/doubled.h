@@ -59,6 +59,14 @@ inline Doubled operator+(Doubled v, Doubled w) {
     return Doubled::ordered(carried.hi, carried.lo + low.lo);
 }
 inline Doubled operator-(Doubled v, Doubled w) { return v + -w; }
+// With one that has no lower part the same steps, without those that add nothing.
+inline Doubled operator+(Doubled v, double w) {
+    const Doubled high = Doubled::sum(v.hi, w);
+    return Doubled::ordered(high.hi, high.lo + v.lo);
+}
+inline Doubled operator+(double v, Doubled w) { return w + v; }
+inline Doubled operator-(Doubled v, double w) { return v + -w; }
+inline Doubled operator-(double v, Doubled w) { return -w + v; }
 
 inline Doubled operator*(Doubled v, Doubled w) {
     const Doubled p = Doubled::product(v.hi, w.hi);
@@ -75,6 +83,11 @@ inline Doubled operator/(Doubled v, Doubled w) {
     const double quotient = v.hi / w.hi;
     const Doubled rest = v - quotient * w;
     return Doubled::ordered(quotient, rest.hi / w.hi);
+}
+inline Doubled operator/(Doubled v, double w) {
+    const double quotient = v.hi / w;
+    const Doubled rest = v - Doubled::product(w, quotient);
+    return Doubled::ordered(quotient, rest.hi / w);
 }
 /// Of a negative number that of zero: here such a number is a zero that was rounded.
 inline Doubled squareRoot(Doubled v) {
