@@ -11,24 +11,23 @@ using namespace planegeo;
 /// Two lines in normal form, n . x = c. The constants are formed at the given coordinates,
 /// without a shift.
 struct LinePair {
-    Vec2Pair starts, directions, normals;
-    Pair constants;
+    Vec2 normalA, normalB;
+    double a, b;
     double determinant; ///< cross product of the directions
 
-    LinePair(Vec2Pair from, Vec2Pair to)
-        : starts(from), directions(to - from), normals{to.y - from.y, from.x - to.x},
-          constants(dot(normals, starts)),
-          determinant(normals.y[1] * normals.x[0] - normals.x[1] * normals.y[0]) {}
+    LinePair(const Segment &first, const Segment &second)
+        : normalA(normalOf(first)), normalB(normalOf(second)), a(dot(normalA, first.start)),
+          b(dot(normalB, second.start)),
+          determinant(normalB.y * normalA.x - normalB.x * normalA.y) {}
 
     Vec2 intersection() const {
-        return {(normals.y[1] * constants[0] - constants[1] * normals.y[0]) / determinant,
-                (constants[1] * normals.x[0] - normals.x[1] * constants[0]) / determinant};
+        return {(normalB.y * a - b * normalA.y) / determinant,
+                (b * normalA.x - normalB.x * a) / determinant};
     }
-};
 
-LinePair loadLines(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *b1, const DTPOINT *b2) {
-    return {pairOf(load(a1), load(b1)), pairOf(load(a2), load(b2))};
-}
+  private:
+    static Vec2 normalOf(const Segment &s) { return {s.end.y - s.start.y, s.start.x - s.end.x}; }
+};
 
 /// On purpose both quotients must be small: one alone is no parallel.
 bool areParallel(double determinant, const Segment &first, const Segment &second) {
@@ -46,7 +45,7 @@ struct TwoLines {
     const auto [a1, a2, b1, b2] = points;
     const Segment a = load(a1, a2);
     const Segment b = load(b1, b2);
-    const LinePair lines = loadLines(a1, a2, b1, b2);
+    const LinePair lines(a, b);
     if (areParallel(lines.determinant, a, b)) {
         store({0.0, 0.0}, out);
         return 2;
@@ -80,7 +79,7 @@ extern "C" {
 
 int32_t a2dCrs2L(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *b1, const DTPOINT *b2,
                  DTPOINT *out) {
-    const LinePair lines = loadLines(a1, a2, b1, b2);
+    const LinePair lines(load(a1, a2), load(b1, b2));
     if (std::fabs(lines.determinant) < kParallelCross) return 0;
     store(lines.intersection(), out);
     return 1;
@@ -88,9 +87,11 @@ int32_t a2dCrs2L(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *b1, const 
 
 int32_t a2d_ins2l(const DTPOINT *a1, const DTPOINT *a2, const DTPOINT *b1, const DTPOINT *b2,
                   DTPOINT *out) {
-    const LinePair lines = loadLines(a1, a2, b1, b2);
+    const Segment a = load(a1, a2), b = load(b1, b2);
+    const LinePair lines(a, b);
     const Vec2 point = lines.intersection();
-    const SegmentLook<Vec2Pair> look(lines.directions, pairOf(point, point) - lines.starts);
+    const Vec2Pair starts = pairOf(a.start, b.start), ends = pairOf(a.end, b.end);
+    const SegmentLook<Vec2Pair> look(ends - starts, twice(point) - starts);
     // A determinant above the slack of one line is none of parallels, see isQuotientBelow().
     const Pair told =
         smaller(std::fabs(lines.determinant) - look.slack, longestTold() - look.longer);
