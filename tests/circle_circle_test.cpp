@@ -157,7 +157,7 @@ TEST(CrossArcs, keepsThePointsOnBothRanges) {
 }
 
 TEST(CrossArcs, differInWhatIsAFullCircle) {
-    const Arc nearly = {{0, 0}, 5, {90, 90 + 0.5e-8}}, notQuite = {{0, 0}, 5, {90, 90 + 2e-8}};
+    const Arc nearly = {{0, 0}, 5, {90, 90 + 0.5e-8}}, notQuite = {{0, 0}, 5, {0, 1e-8}};
     const Arc other = {{4, 0}, 3, {0, 360}};
     expectArcs("by 1e-8", nearly, other, 0, {{4, -3}, {4, 3}}, {}, {a2d_ins2c});
     expectArcs("exactly", nearly, other, 0, {}, Without::cleared, {ca_ins2c});

@@ -53,8 +53,10 @@ TEST(LineCircle, tellsTangentFromSecantOnBothSidesOfTheTolerance) {
         EXPECT_TRUE(near(got.out1, none ? kUntouchedPoint : shifted({half, y}), within)) << off;
         EXPECT_TRUE(near(got.out2, none ? kUntouchedPoint : shifted({-half, y}), within)) << off;
     }
-    const ToleranceGuard coarse(1e-3);
-    EXPECT_EQ(lineCircle({-5, 2 + 0.5e-3}, {1, 2 + 0.5e-3}, 2).count, 1) << "errdist is asked";
+    const ToleranceGuard half(0.5);
+    EXPECT_EQ(lineCircle({-5, 2.25}, {1, 2.25}, 2).count, 1);
+    EXPECT_EQ(lineCircle({-5, 2.5}, {1, 2.5}, 2).count, 0) << "errdist itself";
+    EXPECT_EQ(lineCircle({-5, 1.5}, {1, 1.5}, 2).count, 2) << "on the other side";
 }
 
 TEST(LineCircle, doesNotCheckItsInput) {
@@ -90,7 +92,8 @@ TEST(LineArc, keepsPointsOfCirclesOfAnySizeAnywhere) {
 }
 
 TEST(LineArc, keepsByArcAndSegment) {
-    const double h = std::sqrt(3.0);        // x = 1 on the circle of radius 2
+    const double h = std::sqrt(3.0); // x = 1 on the circle of radius 2
+    const double q = std::sqrt(2.0);
     const double s = 1e-8 * kRadPerDeg * 2; // 1e-8 degrees on it
     struct {
         const char *about;
@@ -113,14 +116,17 @@ TEST(LineArc, keepsByArcAndSegment) {
         {"ends 1e-8 apart: an arc", 1, {1, -4}, {1, 4}, 0, 1e-8, {}},
         {"a turn below 0", 1, {1, -4}, {1, 4}, -640, -280 + 0.5e-8, {{1, h}, {1, -h}}},
         {"across 0 up to the point", 1, {-4, 0}, {4, 0}, 270, 0, {{2, 0}}},
-        {"across 0 but short of it", 1, {-4, 0}, {4, 0}, 270, 359, {}},
+        {"across 0 to 45.5", 1, {-4, -4}, {4, 4}, 270, 45.5, {{q, q}}},
+        {"across 0 but short of 45", 1, {-4, -4}, {4, 4}, 270, 44.5, {}},
+        {"an end two slacks before the start", 1, {-4, 0}, {4, 0}, 2e-8, 0, {{2, 0}, {-2, 0}}},
+        {"an end one slack before the point", 1, {0, -4}, {0, 4}, 0, 90 - 1e-8, {{0, 2}}},
         {"negative ends are raised", 1, {0, 4}, {0, -4}, -90, -1, {{0, -2}}},
         {"-720 is raised once only", 1, {-4, 0}, {4, 0}, -720, -630, {}},
         {"start 0.5e-8 past the point", 1, {-4, 0}, {4, 0}, 0.5e-8, 90, {{2, 0}}},
         {"start 2e-8 past the point", 1, {-4, 0}, {4, 0}, 2e-8, 90, {}},
         {"end 0.5e-8 before the point", 1, {0, 4}, {0, -4}, 180, 270 - 0.5e-8, {{0, -2}}},
         {"end 2e-8 before the point", 1, {0, 4}, {0, -4}, 180, 270 - 2e-8, {}},
-        {"0.5e-8 below 360 counts as 0", 1, {-4, -0.5 * s}, {4, -0.5 * s}, 0, 90, {{2, -0.5 * s}}},
+        {"0.5e-8 below 360 is 0", 1, {-4, -0.5 * s}, {4, -0.5 * s}, 0, 0.5, {{2, -0.5 * s}}},
         {"2e-8 below 360 does not", 1, {-4, -2 * s}, {4, -2 * s}, 0, 90, {}},
         {"segment keeps the first", 2, {0, 0}, {4, 0}, 170, 190, {{2, 0}}},
         {"segment keeps the second", 2, {-4, 0}, {0, 0}, 170, 190, {{-2, 0}}},
