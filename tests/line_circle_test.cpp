@@ -153,7 +153,7 @@ TEST(LineArc, rejectsARadiusOrALineWithoutSize) {
     expectSame("radius 0", lineArc(0, {1, 2}, {9, 2}, 0, nullptr), rejected, 1);
     expectSame("negative radius", lineArc(0, {1, 2}, {9, 2}, -1, nullptr), rejected, 1);
     expectSame("box", lineArc(0, {1, 2}, {1 + 0.9e-6, 2 + 0.9e-6}, 5, nullptr), rejected, 1);
-    EXPECT_EQ(lineArc(0, {1, 2}, {1 + 2e-6, 2}, 5, nullptr).count, 2);
+    EXPECT_EQ(lineArc(0, {1, 0.25}, {1 + 2e-6, 0.25}, 0.5, nullptr).count, 2);
 }
 
 TEST(LineArc, theOtherNamesAnswerAsTheirModes) {
