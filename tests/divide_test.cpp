@@ -71,6 +71,8 @@ TEST(KeptDivision, whatIsKept) {
     moved.b += 2e-6;
     longer.a += 2e-6;
     std::swap(reversed.start, reversed.end);
+    plain::Arc further = kArc;
+    further.end += 2e-8;
     const Step steps[] = {
         {"the first call measures", kArc, 5, 2, 0, false},
         {"within the tolerances it is the same arc", nudged, 5, 1, 0, true},
@@ -83,6 +85,8 @@ TEST(KeptDivision, whatIsKept) {
         {"another start", turned, 5, 1, 0, false},
         {"another first axis", longer, 5, 1, 0, false},
         {"another axis", moved, 5, 1, 0, false},
+        {"the first again", kArc, 5, 1, 0, false},
+        {"another end", further, 5, 1, 0, false},
         {"another count", moved, 6, 1, 0, false},
         {"a reversed range is refused", reversed, 6, 1, -1, false},
         {"and again, from no table", reversed, 6, 1, -1, false},

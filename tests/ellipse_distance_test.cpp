@@ -154,6 +154,8 @@ TEST(NearestPoint, knownAnswers) {
         {"equal ends: the whole ellipse", 4, 2, 77, 77, {5, 0}, {2, 0}},
         {"off the arc: its start", 4, 2, 90, 270, {3, 1}, {0, 1}},
         {"off the arc: its end", 4, 2, 90, 270, {3, -1}, {0, -1}},
+        {"off a wide arc: its start", 4, 2, 90, 330, {1, 0.9}, {0, 1}},
+        {"beyond a narrow arc: its end", 4, 2, 0, 90, {-1, 2}, {0, 1}},
         {"across 0", 4, 2, -90, 90, {5, 0}, {2, 0}},
         {"the arc without the nearest point: the other minimum", 4, 2, 190, 350, {0, 0.2}, {0, -1}},
         {"there, but with an end nearer", 4, 2, 190, 350, {-1.9, 0.1}, {2 * cosd(190), sind(190)}},

@@ -296,12 +296,15 @@ TEST(PolarProjection, takesThePolarAngleForAParameter) {
     DTPOINT out = kUntouchedPoint;
     const DTPOINT atCenter = {7 + 9e-7, -3 - 9e-7}, beside = {7 + 1.1e-6, -3};
     EXPECT_EQ(a2d_perle(&atCenter, &kEllipse, &out), -1);
-    const DTELLIPSE thin = {0, 0, 0, 10, 1e-6, 0, 360, 0};
+    const DTELLIPSE thin = {0, 0, 0, 10, 1e-6, 0, 360, 0}, upright = {0, 0, 0, 1e-6, 10, 0, 360, 0};
     EXPECT_EQ(a2d_perle(&beside, &thin, &out), -1);
+    EXPECT_EQ(a2d_perle(&beside, &upright, &out), -1);
     EXPECT_EQ(out, kUntouchedPoint);
     EXPECT_EQ(a2d_perle(&beside, &kEllipse, &out), 0);
     DTELLIPSE quarter = {0, 7, -3, 10, 6, 0, 90, 1e-8};
     EXPECT_EQ(a2d_perle(&beside, &quarter, &out), 0) << "below its start by all of the slack";
     quarter.rot = -360.00000001;
     EXPECT_EQ(a2d_perle(&beside, &quarter, &out), 1) << "a turn and all of the slack beyond";
+    quarter.rot = -30;
+    EXPECT_EQ(a2d_perle(&beside, &quarter, &out), 0) << "in the plane below 0";
 }

@@ -218,6 +218,7 @@ TEST(SideOfEllipse, comparesTheFocalSum) {
         {"0.6e-6 within the first axis", 8, 4, {4 - 0.6e-6, 0}, 0, 65535},
         {"0.4e-6 within the second axis", 4, 8, {0, 4 - 0.4e-6}, 0, 0},
         {"axis of 1e-8", 8, 1e-8, {100, 0}, -1, 0},
+        {"first axis of 1e-8", 1e-8, 8, {100, 0}, -1, 0},
     };
     for (const auto &c : cases) {
         const DTPOINT p = turned(c.local, 30);

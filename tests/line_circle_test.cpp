@@ -113,6 +113,7 @@ TEST(LineArc, keepsByArcAndSegment) {
         {"arc keeps a touch once", 1, {-4, 2}, {4, 2}, 0, 90, {{0, 2}}},
         {"arc drops a touch", 1, {-4, 2}, {4, 2}, 100, 200, {}},
         {"ends half of 1e-8 apart: all", 1, {1, -4}, {1, 4}, 30, 30 + 0.5e-8, {{1, h}, {1, -h}}},
+        {"a full circle at its seam", 1, {-4, 0}, {4, 0}, 0, 360, {{2, 0}, {-2, 0}}},
         {"ends 1e-8 apart: an arc", 1, {1, -4}, {1, 4}, 0, 1e-8, {}},
         {"a turn below 0", 1, {1, -4}, {1, 4}, -640, -280 + 0.5e-8, {{1, h}, {1, -h}}},
         {"across 0 up to the point", 1, {-4, 0}, {4, 0}, 270, 0, {{2, 0}}},

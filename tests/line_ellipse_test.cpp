@@ -52,6 +52,14 @@ TEST(LineEllipse, CountsAndOrder) {
         const double within = got.count == 1 ? 1e-6 : kWithin;
         EXPECT_TRUE(near(got.out1, want(0), within));
         EXPECT_TRUE(near(got.out2, want(1), within));
+        const DTPOINT p1 = placed(kEllipse, c.p1), p2 = placed(kEllipse, c.p2), center = {10, -7};
+        const double whole[] = {0, 360};
+        Crossing same;
+        uint32_t count = 0;
+        EXPECT_EQ(a2d_CrsLE(&p1, &p2, &center, 6, 2, 30, &same.out1, &same.out2, &count, 1e-6), 0);
+        EXPECT_TRUE(count == got.count && same.out1 == got.out1 && same.out2 == got.out2);
+        same = cross(kEllipse, p1, p2, whole);
+        EXPECT_TRUE(same.count == got.count && same.out1 == got.out1 && same.out2 == got.out2);
     }
 }
 
@@ -75,6 +83,8 @@ TEST(LineEllipse, DegenerateInputLeavesThePoints) {
         EXPECT_EQ(got.count, 0);
         EXPECT_EQ(got.out1, kUntouchedPoint);
         EXPECT_EQ(got.out2, kUntouchedPoint);
+        const double arc[] = {0, 90};
+        EXPECT_EQ(cross({0, 10, -7, c.a, c.b, 0, 0, 0}, c.p1, c.p2, arc).status, -1);
     }
     const DTPOINT center = {10, -7}, p1 = {10, -7}, p2 = {10 + 0.9e-6, -7};
     DTPOINT out1, out2;
@@ -120,6 +130,24 @@ TEST(LineEllipse, ArcKeepsItsPoints) {
     const double kept[] = {30 + 0.5e-8, 90}, dropped[] = {30 + 2e-8, 90};
     EXPECT_EQ(cross(circle, from, to, kept).count, 1);
     EXPECT_EQ(cross(circle, from, to, dropped).count, 0);
+}
+
+/// Where short cuts have their limits: sizes, thickness, whole turns.
+TEST(LineEllipse, ArcsOutOfAllProportion) {
+    const struct {
+        double a, b, rot, start, end;
+    } cases[] = {{0.1, 2, 30, 30, 60},   {6, 0.1, 30, 30, 60},   {4e8, 3e8, 30, 30, 60},
+                 {1e8, 3e8, 30, 30, 60}, {6e3, 2, 30, 30, 60},   {2, 6e3, 30, 30, 60},
+                 {6, 2, 360030, 30, 60}, {6, 2, 30, 360030, 60}, {6, 2, 30, 30, 360060}};
+    for (const auto &c : cases) {
+        const DTELLIPSE e = {0, 10, -7, c.a, c.b, 0, 0, c.rot};
+        const DTPOINT first = at(e, 40), second = at(e, 200);
+        const double arc[] = {c.start, c.end};
+        const Crossing got =
+            cross(e, {first.x * 2 - second.x, first.y * 2 - second.y}, second, arc);
+        ASSERT_EQ(got.count, 1) << c.a << " " << c.b;
+        EXPECT_TRUE(near(got.out1, first, 1e-9 * (c.a + c.b)));
+    }
 }
 
 TEST(LineEllipse, ChordsComeBack) {

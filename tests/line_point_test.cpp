@@ -35,6 +35,9 @@ TEST(OnLine, asksTheEndsFirstThenLengthDistanceAndExtent) {
         EXPECT_EQ(a2d_onlin(&p1, &p2, &q), c.want) << c.about;
         EXPECT_EQ(ca_onlin(&p1, &p2, &q), c.want) << c.about;
     }
+    const DTPOINT close = fromA({1.8, 0}), off = fromA({0.9, 0.5});
+    const ToleranceGuard wide(1.0);
+    EXPECT_EQ(a2d_onlin(&kA, &close, &off), 0) << "further than errdist from both ends";
     const ToleranceGuard none(0.0);
     EXPECT_EQ(a2d_onlin(&kA, &kB, &kA), 1) << "nothing is on a line within no tolerance";
     const ToleranceGuard boundless(1e200);

@@ -106,6 +106,8 @@ TEST(Bairstow, keepsTheBestFactorOfAllSearches) {
     EXPECT_EQ(twice.status, 0);
     EXPECT_EQ(std::vector<double>(twice.out.begin() + 4, twice.out.begin() + 8),
               std::vector<double>(twice.out.begin() + 8, twice.out.end()));
+    // One coefficient of a factor that comes again is no repetition of its steps.
+    EXPECT_EQ(bairstow({1, 0, 2, 0, 0, 0, -3}).status, 0);
     // A first factor without any rest leaves the best residual where it was.
     const Answer exact = bairstow({1, 0, 0, 0, 0, 0, -1});
     EXPECT_EQ(exact.status, -2);
