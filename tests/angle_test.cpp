@@ -100,8 +100,10 @@ TEST(StdSedeg, reachesTheDoubleThatSubtractingTurnByTurnReaches) {
     Random random(11);
     for (int i = 0; i < 3000; ++i) {
         const double size = random.logUniform(1.0, 3.6e6);
-        const Ends range = {random.uniform(-size, size),
-                            i % 3 ? random.uniform(-size, size) : 360.0 * std::floor(size)};
+        const double turns = 360.0 * std::floor(size);
+        const double ends[] = {turns, i % 2 ? turns - 5e-9 : 5e-9 - turns,
+                               random.uniform(-size, size)};
+        const Ends range = {random.uniform(-size, size), ends[i % 3]};
         bool equal = false;
         const Ends want = normalisedByTurns(range, equal);
         Ends got = range;

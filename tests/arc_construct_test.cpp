@@ -59,6 +59,7 @@ TEST(ArcThroughPoints, runsAnticlockwiseAndKnowsNoArc) {
     EXPECT_EQ(arcThrough({1, 1}, {4, 1}, {7, 1 + 3.3e-4}, got), 0) << "one sine of 1.1e-4";
     EXPECT_EQ(arcThrough({1, 1}, {4, 1}, {1, 1 + 3.3e-4}, got), 0) << "two large sines";
     EXPECT_EQ(arcThrough({1, 1}, {7, 1}, {4, 1 + 2.4e-4}, got), 0) << "that at p3 alone";
+    EXPECT_EQ(arcThrough({1, 1}, {4, 1}, {7, 1 + 9e-4}, got), 0) << "that at p1, hardly";
 }
 
 TEST(ArcOverChord, choosesTheSideAndRejectsWhatIsTooSmall) {

@@ -178,6 +178,7 @@ TEST(CrossArcs, touchWithinErrdistFromTheLargerCircle) {
         {"0.5e-6 within", 2, {1 - 0.5e-6, 0}, 1, {{2, 0}}},
         {"0.5e-6 within, the other larger", 1, {1 - 0.5e-6, 0}, 2, {{-1 - 0.5e-6, 0}}},
         {"2e-6 within", 2, {1 - 2e-6, 0}, 1, {}},
+        {"concentric", 2, {0, 0}, 1, {}},
     };
     for (const auto &c : cases) {
         expectArcs(c.about, {{0, 0}, c.r1, {0, 0}}, {c.c2, c.r2, {0, 360}}, 0, c.want,

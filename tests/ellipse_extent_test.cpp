@@ -33,6 +33,7 @@ TEST(TangentPoints, ofTheWholeEllipse) {
         {"turns too many", 0, 45 + 1800, {-4 / s, 1 / s}},
         {"turns too few", 0, 45 - 1800, {-4 / s, 1 / s}},
         {"720 is taken down to 360", 270, 720, {2, 0}},
+        {"whole turns too few", 0, -1800, {0, 1}},
         {"0.5e-8 from the second axis", 0, 90 + 0.5e-8, {2, 0}},
     };
     for (const auto &c : cases) {
@@ -66,6 +67,8 @@ TEST(TangentPoints, ofAnArcGiveWayToItsNearerEnd) {
         {"180", 0, 360, 0, 180, {0, 1}, {0, -1}},
         {"a rotation of 360 is none", 0, 360, 360, 90, {2, 0}, {-2, 0}},
         {"nor is one of -360", 0, 360, -360, 90, {2, 0}, {-2, 0}},
+        {"450 is lowered once", 0, 360, 0, 450, {2, 0}, {-2, 0}},
+        {"the lower half, from 180", 180, 360, 0, 0, {2, 0}, {0, -1}},
         {"-90 is raised once", 0, 360, 0, -90, {2, 0}, {-2, 0}},
         {"a local direction of -90", 0, 360, 180, 90, {2, 0}, {-2, 0}},
     };

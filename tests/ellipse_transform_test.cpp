@@ -71,6 +71,7 @@ TEST(MirroredEllipse, exchangesTheEnds) {
         {"a start of 0 gives an end of 360", 0, 0, 90, 0, 270, 360},
         {"360.00000001 stays", 0, 360 - 360.00000001, 90, 0, 270, 360.00000001},
         {"one above it lowers both", 0, -2e-8, 90, 0, -90, 2e-8},
+        {"so does a start", 0, 0, -2e-8, 0, 2e-8, 0},
         {"rotated", 50, 30, 120, 310, 240, 330},
         {"0.5e-8 is no rotation", 0.5e-8, 30, 120, 0, 240, 330},
         {"the direction snaps to the axis", 1e-6, 30, 120, 0, 240, 330},

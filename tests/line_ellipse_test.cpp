@@ -85,6 +85,10 @@ TEST(LineEllipse, DegenerateInputLeavesThePoints) {
         EXPECT_EQ(got.out2, kUntouchedPoint);
         const double arc[] = {0, 90};
         EXPECT_EQ(cross({0, 10, -7, c.a, c.b, 0, 0, 0}, c.p1, c.p2, arc).status, -1);
+        DTPOINT out[2];
+        uint32_t count;
+        const DTPOINT o = {10, -7};
+        EXPECT_EQ(a2d_CrsLE(&c.p1, &c.p2, &o, c.a, c.b, 0, out, out + 1, &count, 1e-6), 1);
     }
     const DTPOINT center = {10, -7}, p1 = {10, -7}, p2 = {10 + 0.9e-6, -7};
     DTPOINT out1, out2;
@@ -108,6 +112,7 @@ TEST(LineEllipse, ArcKeepsItsPoints) {
         {"both, across 0", {190, 60}, {first, second}},
         {"first: the ends are parametric, its polar angle is 15.6", {30, 60}, {first}},
         {"second moves up", {180, 210}, {second}},
+        {"second at the very end", {190, 200}, {second}},
         {"none", {50, 190}, {}},
     };
     for (const Case &c : cases) {

@@ -46,6 +46,7 @@ TEST(CrossSegments, tellsOnBothOutsideAndParallel) {
         {"outside the second only", {{3, -1}, {3, 1}, {0, 0}, {1, 0}}, 1, {3, 0}},
         {"meeting at ends", {{0, 0}, {2, 0}, {2, 0}, {2, 3}}, 0, {2, 0}},
         {"0.5e-6 short of the other", {{-2, 0}, {-0.5e-6, 0}, {0, -1}, {0, 1}}, 0, {0, 0}},
+        {"the second 1.5e-6 short", {{0, -1}, {0, 1}, {-2, 0}, {-1.5e-6, 0}}, 1, {0, 0}},
         {"1.5e-6 short of the other", {{-2, 0}, {-1.5e-6, 0}, {0, -1}, {0, 1}}, 1, {0, 0}},
         {"parallel", {{7, 0}, {8, 0}, {7, 1}, {9, 1}}, 2, {0, 0}},
         {"both quotients small", {{0, 1}, {1, 1}, {0, 1}, {1, 1 + 0.5e-6}}, 2, {0, 0}},

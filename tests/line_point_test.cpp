@@ -22,7 +22,7 @@ TEST(OnLine, asksTheEndsFirstThenLengthDistanceAndExtent) {
         {"at an end", {0, 0}, {4, 0}, {4, 0}, 0},
         {"0.5e-6 beyond the end", {0, 0}, {4, 0}, {4 + 0.5e-6, 0}, 0},
         {"2e-6 beyond the end", {0, 0}, {4, 0}, {4 + 2e-6, 0}, 1},
-        {"2e-6 before the start", {0, 0}, {4, 0}, {-2e-6, 0}, 1},
+        {"1.5e-6 before the start", {0, 0}, {4, 0}, {-1.5e-6, 0}, 1},
         {"0.5e-6 beside", {0, 0}, {4, 0}, {2, 0.5e-6}, 0},
         {"2e-6 beside", {0, 0}, {4, 0}, {2, -2e-6}, 1},
         {"beside an end, both ways", {0, 0}, {4, 0}, {4 + 0.8e-6, 0.8e-6}, 1},
@@ -38,6 +38,8 @@ TEST(OnLine, asksTheEndsFirstThenLengthDistanceAndExtent) {
     const DTPOINT close = fromA({1.8, 0}), off = fromA({0.9, 0.5});
     const ToleranceGuard wide(1.0);
     EXPECT_EQ(a2d_onlin(&kA, &close, &off), 0) << "further than errdist from both ends";
+    const ToleranceGuard vast(1e300);
+    EXPECT_EQ(a2d_onlin(&kA, &close, &off), 0) << "everything is within that of an end";
     const ToleranceGuard none(0.0);
     EXPECT_EQ(a2d_onlin(&kA, &kB, &kA), 1) << "nothing is on a line within no tolerance";
     const ToleranceGuard boundless(1e200);
