@@ -76,14 +76,11 @@ void expectTangentJoints(const Chain &chain, bool isClosed, double size) {
 }
 
 double furthest(const Chain &chain, const Ellipse &e) {
-    const ToleranceGuard exactly(0.0);
-    const double whole[] = {0, 360};
     double most = 0.0;
     for (std::size_t k = 0; k < chain.size(); ++k) {
         for (int i = 0; i <= 40; ++i) {
             const double deg = chain.start(k) + (chain.end(k) - chain.start(k)) * i / 40;
-            const DTPOINT p = chain.at(k, deg);
-            most = std::max(most, a2d_dstpe(&e.center, e.a, e.b, e.rot, whole, &p));
+            most = std::max(most, distanceFrom(e, chain.at(k, deg)));
         }
     }
     return most;

@@ -107,6 +107,13 @@ class ToleranceGuard {
     double before_;
 };
 
+/// The distance of a point from an ellipse, also below errdist.
+inline double distanceFrom(const Ellipse &e, DTPOINT p) {
+    const ToleranceGuard exactly(0.0);
+    const double whole[] = {0.0, 360.0};
+    return a2d_dstpe(&e.center, e.a, e.b, e.rot, whole, &p);
+}
+
 /// Sets StartendFlg for a scope.
 class StartendGuard {
   public:
