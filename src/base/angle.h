@@ -37,8 +37,9 @@ inline constexpr double kCoarseDeg = 0.04;
 /// that it decides without an arc tangent. NaN where a vector is zero or not finite.
 ///
 /// Of a level vector it is atan(y / x), of a steep one -atan(x / y), and 90, 180, 270 or 360 more.
-/// The polynomial is that of least error for the arc tangent up to 1, 0.035 degrees.
-inline Pair coarseDirectionDeg(Vec2Pair v) {
+/// The polynomial is that of least error for the arc tangent up to 1, 0.035 degrees. Inlined
+/// always: pairs are handed over in memory.
+[[gnu::always_inline]] inline Pair coarseDirectionDeg(Vec2Pair v) {
     constexpr Pair kNothing = {};
     const Pair x = magnitude(v.x), y = magnitude(v.y);
     const Pair t = (y > x ? -v.x : v.y) / (y > x ? v.y : v.x);
@@ -67,7 +68,7 @@ struct CoarseLook {
     Pair inside = {1.0, 1.0}; ///< positive where the direction lies between
 
     CoarseLook() = default; ///< of a whole turn
-    CoarseLook(Vec2Pair v, double first, double last) {
+    [[gnu::always_inline]] CoarseLook(Vec2Pair v, double first, double last) {
         if (!(first < last)) {
             told = Pair{};
             return;

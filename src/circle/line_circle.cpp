@@ -76,13 +76,14 @@ struct Passage {
     }
 };
 
-/// Which of two points are kept, positive numbers, where all is clear of every tolerance.
+/// Which of two points are kept, positive numbers, where all is clear of every tolerance. Inlined
+/// always: pairs are handed over in memory.
 struct KeptOfTwo {
     Pair told = {1.0, 1.0};
     Pair kept = {1.0, 1.0};
 
-    KeptOfTwo(Keep keep, const Segment &line, AngleRange range, const Cuts &cuts,
-              bool offsetsTell) {
+    [[gnu::always_inline]] KeptOfTwo(Keep keep, const Segment &line, AngleRange range,
+                                     const Cuts &cuts, bool offsetsTell) {
         if (asksForArc(keep)) {
             const LiteralArc arc(range);
             if (!arc.isFull) {
