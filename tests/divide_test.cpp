@@ -139,6 +139,15 @@ TEST(KeptDivision, oddArguments) {
     EXPECT_EQ(got.code, -2) << "too long a walk";
     EXPECT_EQ(got.piece, 0.0);
     EXPECT_EQ(kept({kCenter, 10, 6, 0, kNaN, 90}, 3, 3).code, -2);
+    for (const plain::Arc &walked :
+         {plain::Arc{kCenter, 1e-123, 6e-124, 0, 0, 90}, plain::Arc{kCenter, 1e123, 6e122, 0, 0, 9},
+          plain::Arc{kCenter, 10, 6, 0, 2e6, 2e6 + 9}}) {
+        const plain::Table want = plain::divisionTable(walked, 4);
+        got = kept(walked, 4, 3);
+        EXPECT_NEAR(got.piece, want.piece, 1e-9 * want.piece);
+        EXPECT_TRUE(near(got.point, plain::pointOf(walked, want.parameters[3]), 1e-9 * walked.a));
+    }
+    EXPECT_EQ(kept({kCenter, 1e200, 1e200, 0, 0, 90}, 3, 3).code, 0);
     EXPECT_EQ(kept({kCenter, 10, 6, 0, 0, 90}, 1 << 20, 1 << 20).code, 0);
     EXPECT_EQ(kept({kCenter, 10, 6, 0, 0, 90}, (1 << 20) + 1, 3).code, 1);
     release();

@@ -284,6 +284,15 @@ TEST(Length, knownArcs) {
 }
 
 TEST(Length, aWholeTurnIsWrittenFromZero) {
+    for (const auto &[a, b] : {std::pair{10.0, 1e-5},
+                               {1e-9, 10.0},
+                               {10.0, -6.0},
+                               {-10.0, 6.0},
+                               {10.0, 0.0},
+                               {1e-300, 1e-300}}) {
+        const DTELLIPSE e = arc(a, b, 0, 360);
+        EXPECT_NEAR(measured(e), plain::length(e, a / 2, b / 2), 1e-10) << a << " " << b;
+    }
     const double whole = 20.0 * std::comp_ellint_2(0.8);
     EXPECT_NEAR(measured(arc(10, 6, 0, 359.9999995)), whole, 1e-5);
     for (int i = 0; i < 18; ++i) {

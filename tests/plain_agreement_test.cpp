@@ -147,7 +147,7 @@ TEST(PlainAgreement, searches) {
         const double ratio = random.logUniform(0.2, 5.0);
         const HalfAxes half = {a, a * (i % 60 == 7 ? 1e-3 : i % 5 == 0 ? 0.1 * ratio : ratio)};
         const HalfAxesGuard stored(half.first, half.second);
-        const double start = random.uniform(-100, 300);
+        const double start = random.uniform(-100, 300) + (i % 40 == 9 ? 40000.0 : 0.0);
         DTELLIPSE got = {0, 3, 4, 1, 1, start, start + random.uniform(1, 360), 30};
         const double length = half.length(got.start, got.end).value;
         const double wanted[] = {
@@ -163,6 +163,13 @@ TEST(PlainAgreement, searches) {
                   plain::lengthTo(want, l, which, half.first, half.second));
         EXPECT_EQ(got.start, want.start) << "bit by bit, as the limit moves by halved steps";
         EXPECT_EQ(got.end, want.end);
+        if (i % 6 != 5) continue;
+        const auto sector = [&half](double t) { return half.sector(t); };
+        const double area =
+            plain::simpson(sector, start, start + 90.0).value * random.uniform(0, 2);
+        double lo = start, hi = start + 90.0;
+        EXPECT_EQ(ca_Simpson2(ca_AreaElp, &lo, &hi, area, 1), 0);
+        EXPECT_EQ(hi, plain::simpson2(sector, start, start + 90.0, area, false).hi);
     }
 }
 

@@ -32,8 +32,7 @@ double roughAngle(double b, double mean) {
 
 } // namespace
 
-double lengthAt(const UnitSpeed &arc, double deg) {
-    const Offset at = Offset::ofDegrees(deg);
+double lengthAt(const UnitSpeed &arc, const Offset &at) {
     const double part = arc.lengthTo({at.turn.c, std::fabs(at.turn.s)});
     const double whole =
         at.halfTurns == 0 ? 0.0 : static_cast<double>(at.halfTurns) * arc.integralOfHalfTurn();
@@ -44,7 +43,7 @@ double lengthAt(const UnitSpeed &arc, double deg) {
 // length, the next angle is where f + f' x / 2, the mean speed to first order, makes x as long:
 //     x = 2 r / (f + sqrt(f^2 + 2 f' r)).
 // It leaves less than x^3 / 6 (3 f'^2 / f + |f''|) < x^3 / b of the length.
-std::optional<AngleAtLength> angleAtLength(const UnitSpeed &arc, double length, double precision) {
+std::optional<double> angleAtLength(const UnitSpeed &arc, double length, double precision) {
     const double halfTurn = arc.integralOfHalfTurn();
     const double halfTurns = std::nearbyint(length / halfTurn);
     if (!(std::fabs(halfTurns) <= kMostHalfTurns)) return std::nullopt;
@@ -62,8 +61,7 @@ std::optional<AngleAtLength> angleAtLength(const UnitSpeed &arc, double length, 
         const double step = 2.0 * rest / (speed + std::sqrt(std::max(0.0, g + bend)));
         rad = std::clamp(rad + step, 0.0, 0.5 * kPi);
         if (std::fabs(step * step * step) < precision * b) {
-            const double deg = 180.0 * halfTurns + std::copysign(rad * kDegPerRad, offset);
-            return AngleAtLength{deg, Rotation::ofRadians(rad)};
+            return 180.0 * halfTurns + std::copysign(rad * kDegPerRad, offset);
         }
     }
     return std::nullopt;

@@ -47,14 +47,14 @@ LengthForecast::LengthForecast(const GridSum &sum, Limits first, double wanted, 
 
     const double outwards = movesLower ? -1.0 : 1.0;
     const double kept = (movesLower ? first.hi : first.lo) - sum.endDeg();
-    const double goal = lengthAt(unit, kept) + outwards * (wanted / sum.scale());
+    const double goal = lengthAt(unit, Offset::ofDegrees(kept)) + outwards * (wanted / sum.scale());
     const auto reached = angleAtLength(unit, goal, kPreciseLength / sum.scale());
     if (!reached) return;
     isUsable_ = true;
-    goalDeg_ = reached->deg + sum.endDeg();
+    goalDeg_ = *reached + sum.endDeg();
     fastest_ = sum.scale();
     slowest_ = b * fastest_;
-    atGoal_ = fastest_ * std::sqrt(unit.square(reached->turn));
+    atGoal_ = fastest_ * std::sqrt(unit.square(Rotation::ofDegrees(*reached)));
     longestDeg_ = sum.longestDeg();
     const double third = std::sqrt((1.0 - b) * (1.0 + b)) * (1.0 + 0.86 / (b * b));
     const double unitOff = fastest_ * third * power4(kRadPerDeg);

@@ -2,6 +2,8 @@
 
 #include "ellipse/running_length.h"
 
+#include <algorithm>
+
 #include "ellipse/angle_at_length.h"
 
 namespace planegeo {
@@ -13,7 +15,7 @@ constexpr double kStepsPerSample = 125.0;
 /// So much of a step of the slowest stretch is near enough to be found by single steps.
 constexpr double kCloseSteps = 0x1p-4;
 /// Terms of the sum that are taken one by one to reach the step from the inverse.
-constexpr int kMostPlainSteps = 16;
+constexpr std::int64_t kMostPlainSteps = 16;
 
 } // namespace
 
@@ -32,11 +34,12 @@ RunningLength::RunningLength(const ArcSpeed &speed, const GridSum &length, const
 
 double RunningLength::at(std::int64_t i) const {
     const double deg = steps_.start + (static_cast<double>(i) + 0.5) * steps_.h;
-    const Rotation x = Rotation::ofDegrees(deg);
-    const double f = speed_(x);
+    const Offset x = Offset::ofDegrees(deg - endDeg_);
+    const double f = std::sqrt(unit_.square(x.turn));
+    const double b = unit_.b();
+    const double slope = (1.0 - b) * (1.0 + b) * (x.turn.c * x.turn.s) / f;
     const double alternating = i % 2 == 1 ? -0.5 * f : 0.5 * f;
-    return base_ + scale_ * lengthAt(unit_, deg - endDeg_) -
-           third_ * (0.375 * third_ * speed_.slope(x) + alternating);
+    return base_ + scale_ * (lengthAt(unit_, x) - third_ * (0.375 * third_ * slope + alternating));
 }
 
 double RunningLength::summand(std::int64_t i) const {
@@ -61,22 +64,22 @@ std::optional<std::int64_t> RunningLength::firstReaching(double length) const {
     const double close = kCloseSteps * third_ * unit_.b();
     const auto x = angleAtLength(unit_, (length - base_) / scale_, close);
     if (!x) return std::nullopt;
-    auto i = static_cast<std::int64_t>((x->deg + endDeg_ - steps_.start) / steps_.h);
-    i = i < 1 ? 1 : i >= steps_.count ? steps_.count - 1 : i;
+    const double guess = (*x + endDeg_ - steps_.start) / steps_.h;
+    const std::int64_t end = steps_.count - 1;
+    auto i = std::clamp(static_cast<std::int64_t>(guess), std::int64_t{1}, end);
     const double wanted = length - slack(i, length);
     double sum = at(i);
-    int steps = 0;
-    for (; sum < wanted; ++steps) {
-        if (i + 1 == steps_.count || steps == kMostPlainSteps) return std::nullopt;
+    const std::int64_t last = std::min(i + kMostPlainSteps, end);
+    while (sum < wanted && i < last) {
         sum += summand(++i);
     }
-    for (; i > 1; --i, ++steps) {
-        const double before = sum - summand(i);
-        if (before < wanted) return i;
-        if (steps == kMostPlainSteps) return std::nullopt;
-        sum = before;
+    if (sum < wanted) return std::nullopt;
+    const std::int64_t first = std::max(i - kMostPlainSteps, std::int64_t{1});
+    for (; i > first; --i) {
+        sum -= summand(i);
+        if (sum < wanted) return i;
     }
-    return i;
+    return i == 1 ? std::optional(i) : std::nullopt;
 }
 
 } // namespace planegeo

@@ -22,8 +22,6 @@ struct ArcSpeed {
     double operator()(double parameterDeg) const {
         return (*this)(Rotation::ofDegrees(parameterDeg));
     }
-    /// The derivative by t in radians.
-    double slope(Rotation t) const { return (squareFirst - squareSecond) * t.s * t.c / (*this)(t); }
 };
 
 /// Half the squared distance from the centre to the ellipse along a polar angle, the area that

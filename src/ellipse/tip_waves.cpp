@@ -2,6 +2,7 @@
 
 #include "ellipse/tip_waves.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace planegeo {
@@ -13,7 +14,6 @@ namespace {
 constexpr double kLost = 28.0;
 constexpr double kLostOfSector = 34.0;
 constexpr double kLostWave = 0x1p-48;
-constexpr int kMostTerms = 40;
 constexpr double kLongestStepDeg = 1.25;
 
 } // namespace
@@ -23,7 +23,7 @@ TipWaves::TipWaves(const UnitSpeed &speed, double lo, double hi, bool isPeriodic
     if (areLost(kLongestStepDeg)) return;
     firstTip_ = 180.0 * std::floor(lo / 180.0) + 180.0;
     const double tips = isPeriodic ? (hi - lo) / 180.0 : std::ceil((hi - firstTip_) / 180.0);
-    tips_ = tips > 0.0 ? static_cast<std::size_t>(tips) : 0;
+    tips_ = std::min(static_cast<std::size_t>(std::max(tips, 0.0)), kMostTips);
 }
 
 /// The first wave in steps 2h has less than e^-decay of its factor, as r < e^-2b.
@@ -67,7 +67,7 @@ Bounded TipWaves::wave(double k, double factor, double tolerance) const {
     const double x = (1.0 - b) * (1.0 - b) / (4.0 * b);
     double sum = factor;
     double term = factor;
-    for (int j = 0; j < kMostTerms && std::fabs(term) > tolerance; ++j) {
+    for (double j = 0.0; std::fabs(term) > tolerance; ++j) {
         const double next = -term * x * (j - 0.5) * (j + 1.5) / ((k + 1.0 + j) * (j + 1.0));
         if (std::fabs(next) > std::fabs(term)) break;
         sum += term = next;
@@ -85,7 +85,6 @@ Bounded TipWaves::simpson(double h, double tolerance) {
         const bool isArc = speed_.kind() == EllipseSpeed::arc;
         return {0.0, tips * kLostWave * (isArc ? 1.0 : 3.0 * speed_.b())};
     }
-    if (tips_ > kMostTips) return {0.0, tips};
     turnTo(h);
     Bounded sum = {0.0, 0.0};
     Cosines now = cosines_; // of m theta

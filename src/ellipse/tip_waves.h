@@ -34,7 +34,7 @@ class TipWaves {
     bool areLost(double h) const;
 
   private:
-    /// Longer ranges of thin ellipses are not measured.
+    /// Longer ranges of ellipses that have waves are refused: see GridSum::takes().
     static constexpr std::size_t kMostTips = 8;
     using Cosines = std::array<double, kMostTips>;
 
