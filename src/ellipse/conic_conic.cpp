@@ -8,6 +8,7 @@
 #include "circle/circle.h"
 #include "ellipse/circle_ellipse.h"
 #include "ellipse/convert.h"
+#include "ellipse/parameter_range.h"
 #include "ellipse/settle.h"
 
 namespace {
@@ -43,8 +44,7 @@ template <class ParameterOf> Points withoutRepeats(const Points &points, Paramet
 /// The points on both arcs; nothing when the shape of the ellipse is refused.
 ///
 /// Angles are taken in the common frame: they keep their digits far from the origin.
-std::optional<Points> crossArcs(const Arc &arc, const DTELLIPSE &ellipse) {
-    const EllipseFrame frame = EllipseFrame::of(ellipse);
+std::optional<Points> crossArcs(const Arc &arc, const EllipseFrame &frame, AngleRange parameters) {
     const Vec2 center = frame.turn.undo(frame.center - arc.circle.center);
     const ConicPoints points =
         crossCircleEllipse({center, frame.halfFirst, frame.halfSecond, arc.circle.r});
@@ -53,7 +53,7 @@ std::optional<Points> crossArcs(const Arc &arc, const DTELLIPSE &ellipse) {
     const EllipseFrame local = {center, {1.0, 0.0}, frame.halfFirst, frame.halfSecond};
     const bool isSegment = !(frame.halfSecond >= kShortestHalfAxis);
     const AngleRange onCircle = AngleRange::normalised(arc.range.start, arc.range.end).range;
-    const AngleRange onEllipse = AngleRange::normalised(ellipse.start, ellipse.end).range;
+    const AngleRange onEllipse = AngleRange::normalised(parameters.start, parameters.end).range;
     Points kept;
     Vec2 rays[4] = {};
     for (int i = 0; i < points.count; ++i) {
@@ -81,22 +81,23 @@ bool areSameEllipse(const EllipseFrame &one, const EllipseFrame &other, double r
            std::fabs(rotation - otherRotation) < tolerance && !(dot(apart, apart) > tolerance);
 }
 
+/// Whether an arc given as 0 and 360 is told to be a whole turn from the images of its ends, too.
+bool staysWhole(const EllipseFrame &ellipse, const DTELLIPSE &record, double k) {
+    constexpr double kMostStretched = 1000.0;
+    return ParameterRange(ellipse, record.rot, {record.start, record.end}).isWholeTurn() &&
+           k < kMostStretched && k * kMostStretched > 1.0;
+}
+
 /// The second ellipse in the frame of the first, stretched along y by k.
-std::optional<DTELLIPSE> stretchedInto(const EllipseFrame &first, double firstRotation, double k,
-                                       const DTELLIPSE &second) {
+std::optional<ScaledEllipse> stretchedInto(const EllipseFrame &first, double firstRotation,
+                                           double k, const EllipseFrame &other,
+                                           const DTELLIPSE &second) {
     const Vec2 center = first.toLocal({second.cx, second.cy});
-    const auto image = scaledAlongY({0, center.x, center.y, second.a, second.b, second.start,
-                                     second.end, second.rot - firstRotation},
-                                    k);
-    if (!image || !image->start || !image->end) return std::nullopt;
-    return DTELLIPSE{0,
-                     image->center.x,
-                     image->center.y,
-                     image->axes.first,
-                     image->axes.second,
-                     *image->start,
-                     *image->end,
-                     image->axes.rotationDeg};
+    const DTELLIPSE local = {0,        center.x,     center.y,   second.a,
+                             second.b, second.start, second.end, second.rot - firstRotation};
+    const auto image =
+        staysWhole(other, local, k) ? wholeScaledAlongY(local, k) : scaledAlongY(local, k);
+    return image && image->start && image->end ? image : std::nullopt;
 }
 
 } // namespace
@@ -115,8 +116,9 @@ int32_t a2dIntersectionEC(double ex, double ey, double a, double b, double r, DT
 int32_t a2d_insce(const double *center, double r, const double *angles, const double *ecenter,
                   double a, double b, double rot, const double *eangles, DTPOINT *p1, DTPOINT *p2,
                   DTPOINT *p3, DTPOINT *p4, int16_t *count) {
-    const auto points = crossArcs({{{center[0], center[1]}, r}, loadRange(angles)},
-                                  {0, ecenter[0], ecenter[1], a, b, eangles[0], eangles[1], rot});
+    const auto points =
+        crossArcs({{{center[0], center[1]}, r}, loadRange(angles)},
+                  EllipseFrame::of({ecenter[0], ecenter[1]}, a, b, rot), loadRange(eangles));
     if (!points) return -1;
     *count = static_cast<int16_t>(points->count);
     DTPOINT *const outs[] = {p1, p2, p3, p4};
@@ -142,9 +144,10 @@ int32_t a2d_ins2e(const double *center1, const double *center2, double a1, doubl
     *count = 0;
     if (areSameEllipse(first, other, rot1, rot2)) return 1;
     const double k = a1 / b1;
-    const auto image = stretchedInto(first, rot1, k, second);
+    const auto image = stretchedInto(first, rot1, k, other, second);
     if (!image) return -1;
-    const auto points = crossArcs({{{0.0, 0.0}, first.halfFirst}, range}, *image);
+    const auto points = crossArcs({{{0.0, 0.0}, first.halfFirst}, range}, image->frame,
+                                  {*image->start, *image->end});
     if (!points) return -1;
 
     *count = static_cast<int16_t>(points->count);

@@ -88,22 +88,56 @@ std::optional<EllipseAxes> axesOfConjugates(Vec2 u, Vec2 v) {
     return axes;
 }
 
-std::optional<ScaledEllipse> scaledAlongY(const DTELLIPSE &ellipse, double k) {
+namespace {
+
+/// Where (x, y) -> (x, k y) carries a local point of an ellipse, seen from its centre, from which
+/// all but the centre is taken: it keeps its digits far from the origin.
+Vec2 scaledOffset(const EllipseFrame &frame, Vec2 local, double k) {
+    const Vec2 offset = frame.turn.apply(local);
+    return {offset.x, offset.y * k};
+}
+
+/// The image without the ends of its arc.
+std::optional<ScaledEllipse> scaledShape(const DTELLIPSE &ellipse, const EllipseFrame &frame,
+                                         double k) {
     const double tolerance = distanceTolerance();
     if (tolerance >= ellipse.b || tolerance >= ellipse.a) return std::nullopt;
-    // Everything but the centre is taken from the centre: it keeps its digits far from the origin.
-    const auto imageOf = [k, frame = EllipseFrame::of(ellipse)](double parameterDeg) {
-        const Vec2 offset = frame.turn.apply(frame.localAt(parameterDeg));
-        return Vec2{offset.x, offset.y * k};
-    };
+    constexpr Rotation kQuarter = {0x1.1a62633145c07p-54, 1.0}; // of a quarter in radians, rounded
+    const double a = frame.halfFirst, b = frame.halfSecond;
     const EllipseAxes axes =
-        axesOfConjugates(imageOf(0.0), imageOf(90.0)).value_or(EllipseAxes{0.0, 0.0, 0.0});
-    const EllipseFrame image =
-        EllipseFrame::of({0.0, 0.0}, axes.first, axes.second, axes.rotationDeg);
-    return ScaledEllipse{{ellipse.cx, ellipse.cy * k},
-                         axes,
-                         parameterOfPoint(imageOf(ellipse.start), image, axes.rotationDeg),
-                         parameterOfPoint(imageOf(ellipse.end), image, axes.rotationDeg)};
+        axesOfConjugates(scaledOffset(frame, {a * 1.0, b * 0.0}, k),
+                         scaledOffset(frame, {a * kQuarter.c, b * kQuarter.s}, k))
+            .value_or(EllipseAxes{0.0, 0.0, 0.0});
+    return ScaledEllipse{
+        EllipseFrame::of({ellipse.cx, ellipse.cy * k}, axes.first, axes.second, axes.rotationDeg),
+        axes,
+        {},
+        {}};
+}
+
+} // namespace
+
+std::optional<ScaledEllipse> scaledAlongY(const DTELLIPSE &ellipse, double k) {
+    const EllipseFrame frame = EllipseFrame::of(ellipse);
+    auto scaled = scaledShape(ellipse, frame, k);
+    if (!scaled) return std::nullopt;
+    EllipseFrame image = scaled->frame;
+    image.center = {0.0, 0.0};
+    const auto parameter = [&](double parameterDeg) {
+        return parameterOfPoint(scaledOffset(frame, frame.localAt(parameterDeg), k), image,
+                                scaled->axes.rotationDeg);
+    };
+    scaled->start = parameter(ellipse.start);
+    scaled->end = parameter(ellipse.end);
+    return scaled;
+}
+
+std::optional<ScaledEllipse> wholeScaledAlongY(const DTELLIPSE &ellipse, double k) {
+    auto scaled = scaledShape(ellipse, EllipseFrame::of(ellipse), k);
+    if (!scaled || !hasParameters(scaled->frame)) return std::nullopt;
+    scaled->start = 0.0;
+    scaled->end = 360.0;
+    return scaled;
 }
 
 } // namespace planegeo

@@ -42,7 +42,7 @@ std::optional<EllipseAxes> axesOfConjugates(Vec2 u, Vec2 v);
 
 /// The image of an ellipse under (x, y) -> (x, k y).
 struct ScaledEllipse {
-    Vec2 center;
+    EllipseFrame frame;
     EllipseAxes axes; ///< zeros when the image is flat
     /// Of the images of the arc's ends, not reduced; nothing when an axis of the image is
     /// shorter than errdist.
@@ -52,5 +52,9 @@ struct ScaledEllipse {
 
 /// Nothing when an axis of the ellipse is not longer than errdist.
 std::optional<ScaledEllipse> scaledAlongY(const DTELLIPSE &ellipse, double k);
+
+/// The same with ends at 0 and 360, of an arc that is a whole turn before and after; nothing also
+/// when an axis of the image is shorter than errdist.
+std::optional<ScaledEllipse> wholeScaledAlongY(const DTELLIPSE &ellipse, double k);
 
 } // namespace planegeo

@@ -80,8 +80,8 @@ extern "C" {
 int32_t a2d_elp_trans(const DTELLIPSE *ellipse, double k, DTELLIPSE *result) {
     const auto image = scaledAlongY(*ellipse, k);
     if (!image) return -1;
-    result->cx = image->center.x;
-    result->cy = image->center.y;
+    result->cx = image->frame.center.x;
+    result->cy = image->frame.center.y;
     result->a = image->axes.first;
     result->b = image->axes.second;
     result->rot = image->axes.rotationDeg;
