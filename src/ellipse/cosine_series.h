@@ -18,8 +18,8 @@ struct SineSeries;
 /// sum of a term over equidistant samples is known, and so is that of f, to rounding.
 class CosineSeries {
   public:
-    /// Enough for axes of 16 : 1.
-    static constexpr int kMostTerms = 256;
+    /// Enough for axes of 4.4 : 1.
+    static constexpr int kMostTerms = 64;
 
     /// No series; see isUsable().
     CosineSeries() = default;

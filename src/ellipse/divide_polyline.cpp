@@ -148,9 +148,8 @@ constexpr double kCloseDeg = 1.0;
 constexpr int kRoughTerms = 8;
 
 /// 1 degree over 2 sin(k degrees), in place of the 1 / 2k of the integral.
-constexpr int kMostTerms = 64;
 constexpr auto kChordFactors = [] {
-    std::array<double, kMostTerms + 1> factors = {};
+    std::array<double, CosineSeries::kMostTerms + 1> factors = {};
     Rotation turn = kDegree;
     for (std::size_t k = 1; k < factors.size(); ++k) {
         factors[k] = kRadPerDeg / (2.0 * turn.s);
@@ -199,7 +198,7 @@ std::optional<Division> divideBySeries(const Arc &arc, std::int32_t n, std::int3
     const auto count = chordCount(arc);
     if (!count) return std::nullopt;
     const auto series = CosineSeries::ofArcSpeed(arc.frame.halfFirst, arc.frame.halfSecond);
-    if (!series.isUsable() || series.terms() > kMostTerms) return std::nullopt;
+    if (!series.isUsable()) return std::nullopt;
     const SineSeries chords =
         series.sines([](int i) { return kChordFactors[static_cast<std::size_t>(i)]; });
     const double atStart = chords(arc.start);

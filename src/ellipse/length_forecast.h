@@ -36,7 +36,6 @@ class LengthForecast {
         double low;
         double high;
     };
-    double moved(const Limits &range) const { return movesLower_ ? range.lo : range.hi; }
     double fromGoal(const Limits &range) const;
     Band speedWithin(double rad) const;
     double offIntegral(double span) const;
