@@ -139,6 +139,8 @@ TEST(KeptDivision, oddArguments) {
     EXPECT_EQ(got.code, -2) << "too long a walk";
     EXPECT_EQ(got.piece, 0.0);
     EXPECT_EQ(kept({kCenter, 10, 6, 0, kNaN, 90}, 3, 3).code, -2);
+    EXPECT_TRUE(std::isnan(kept({kCenter, kNaN, 6, 0, 0, 90}, 3, 3).piece));
+    EXPECT_TRUE(std::isnan(kept({kCenter, 10, kNaN, 0, 0, 90}, 3, 3).piece));
     for (const plain::Arc &walked :
          {plain::Arc{kCenter, 1e-123, 6e-124, 0, 0, 90}, plain::Arc{kCenter, 1e123, 6e122, 0, 0, 9},
           plain::Arc{kCenter, 10, 6, 0, 2e6, 2e6 + 9}}) {

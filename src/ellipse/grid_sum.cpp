@@ -47,7 +47,7 @@ GridSum::GridSum(EllipseSpeed speed, double halfFirst, double halfSecond)
 
 GridSum::GridSum(EllipseSpeed speed, double halfFirst, double halfSecond, double a, double b)
     : halfFirst_(halfFirst), halfSecond_(halfSecond), longer_(std::max(a, b)),
-      unit_(speed, std::min(a, b) / longer_),
+      unit_(speed, std::min(b, a) / longer_), // in these orders NaN for either being NaN
       scale_(speed == EllipseSpeed::arc ? longer_ : longer_ * longer_),
       endDeg_(a >= b ? 0.0 : 90.0) {}
 
