@@ -110,6 +110,7 @@ TEST(SampledDistance, knownSamplesAndOddRanges) {
         {"the end is reached by whole steps only", 0, 45.05, {-3, 9}, 45},
         {"a start above the end crosses 0", 350.5, 10, {3, 0}, 0},
         {"by as many turns as it takes", 1080, 10, {3, 0}, 0},
+        {"sums reach an end that the difference does not", 1.1, 4.1, {4, 1}, 4.1},
         {"equal ends are one sample", 30, 30, {-5, 1}, 30},
         {"more than a turn", 0, 1e300, {0, 3}, 90},
         {"steps that change nothing", 1e17, 2e17, {0, 3}, 1e17},
