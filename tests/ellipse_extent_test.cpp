@@ -87,7 +87,7 @@ TEST(TangentPoints, ofAnArcGiveWayToItsNearerEnd) {
 TEST(Extents, encloseTheWholeEllipse) {
     Random random(56);
     for (int i = 0; i < 500; ++i) {
-        const double a = random.logUniform(0.1, 100), b = random.logUniform(0.1, 100);
+        const double a = random.logUniform(0.1, 100), b = i % 9 ? random.logUniform(0.1, 100) : a;
         const double rot = random.uniform(-360, 720);
         const double hx = std::hypot(a * cosd(rot), b * sind(rot)) / 2;
         const double hy = std::hypot(a * sind(rot), b * cosd(rot)) / 2;

@@ -158,7 +158,7 @@ TEST(LineArc, rejectsARadiusOrALineWithoutSize) {
 }
 
 TEST(LineArc, theOtherNamesAnswerAsTheirModes) {
-    const double arc[2] = {0, 90};
+    const double arcs[][2] = {{0, 90}, {300, 60}, {270, 45}, {0, 360}};
     const struct {
         const char *name;
         decltype(&ca_inslc) function;
@@ -171,7 +171,9 @@ TEST(LineArc, theOtherNamesAnswerAsTheirModes) {
     const DTPOINT lines[][2] = {
         {{1, -4}, {1, 4}}, {{1, 4}, {1, -4}}, {{1, 0}, {0, 0}}, {{8, 8}, {9, 8}}, {{1, 1}, {1, 1}}};
     for (const auto &line : lines) {
-        for (const auto &f : filtered) {
+        for (std::size_t i = 0; i < 16; ++i) {
+            const auto &f = filtered[i / 4];
+            const auto &arc = arcs[i % 4];
             const Crossing want = lineArc(f.mode, line[0], line[1], 2, arc);
             const Crossing got = answer(line[0], line[1], [&](auto *p, auto *q, auto... outputs) {
                 return f.function(p, q, &kCenter, 2, arc, outputs...);

@@ -129,6 +129,11 @@ TEST(LineEllipse, ArcKeepsItsPoints) {
     EXPECT_EQ(tangent.count, 0);
     EXPECT_EQ(tangent.out1, kNone);
 
+    const double right[] = {300, 60};
+    const Crossing end = cross({0, 10, -7, 6, 2, 0, 0, 0}, {0, -7}, {20, -7}, right);
+    EXPECT_EQ(end.count, 1) << "a direction that snaps";
+    EXPECT_EQ(end.out1, (DTPOINT{13, -7}));
+
     // On a circle the angles are plain: both sides of the slack, away from the snapping.
     const DTELLIPSE circle = {0, 10, -7, 4, 4, 0, 0, 0};
     const DTPOINT from = polar({10, -7}, 9, 30), to = polar({10, -7}, 5, 210);

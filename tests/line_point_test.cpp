@@ -163,6 +163,7 @@ TEST(DistanceAlong, stopsAtTheEnd) {
         DTPOINT out;
     } const cases[] = {
         {"on the way", {1, 1}, {4, 5}, 2.5, 1, {2.5, 3}},
+        {"less than a unit", {1, 1}, {1.375, 1.5}, 0.3125, 1, {1.1875, 1.25}},
         {"at the start", {1, 1}, {4, 5}, 0, 1, {1, 1}},
         {"beyond the end", {1, 1}, {4, 5}, 6, 1, {4, 5}},
         {"no length", {1, 1}, {1, 1}, 0, 1, {1, 1}},
