@@ -88,7 +88,7 @@ TEST(Extents, encloseTheWholeEllipse) {
     Random random(56);
     for (int i = 0; i < 500; ++i) {
         const double a = random.logUniform(0.1, 100), b = i % 9 ? random.logUniform(0.1, 100) : a;
-        const double rot = random.uniform(-360, 720);
+        const double rot = random.uniform(-900, 900);
         const double hx = std::hypot(a * cosd(rot), b * sind(rot)) / 2;
         const double hy = std::hypot(a * sind(rot), b * cosd(rot)) / 2;
         DTPOINT lower = kUntouchedPoint, upper = kUntouchedPoint;

@@ -158,6 +158,10 @@ TEST(LineEllipse, ArcsOutOfAllProportion) {
         ASSERT_EQ(got.count, 1) << c.a << " " << c.b;
         EXPECT_TRUE(near(got.out1, first, 1e-9 * (c.a + c.b)));
     }
+    const double whole[] = {0, 360};
+    const DTELLIPSE vast = {0, 0, 0, 4e160, 2e160, 0, 0, 0};
+    EXPECT_EQ(cross(vast, {-9e160, 0}, {9e160, 0}).count, 2);
+    EXPECT_EQ(cross(vast, {-9e160, 0}, {9e160, 0}, whole).count, 2);
 }
 
 TEST(LineEllipse, ChordsComeBack) {
