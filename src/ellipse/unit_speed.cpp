@@ -215,20 +215,21 @@ OddDerivatives UnitSpeed::derivatives(Rotation u, std::size_t count) const {
 
 double UnitSpeed::lengthTo(Rotation u) const { return lengthsFromEnd<1>(b_, {u.c}, {u.s})[0]; }
 
-/// Of a sector: the swept angle is that between (b cos, sin) at both ends, scaled.
+/// Of a sector: the swept angle is that between (b cos, sin) at both ends, scaled. One that runs
+/// backwards is taken to the opposite end, a half turn on.
 double UnitSpeed::integralBetween(const Offset &from, const Offset &to) const {
-    std::int64_t halfTurns = to.halfTurns - from.halfTurns;
+    const auto halfTurns = static_cast<double>(to.halfTurns - from.halfTurns);
     if (kind_ == EllipseSpeed::sector) {
         const Rotation p = from.turn, q = to.turn;
-        const double swept =
-            std::atan2(b_ * (p.c * q.s - p.s * q.c), b_ * b_ * p.c * q.c + p.s * q.s);
-        return 0.5 * b_ * (static_cast<double>(halfTurns) * kPi + swept);
+        const double sine = b_ * (p.c * q.s - p.s * q.c);
+        const double cosine = b_ * b_ * p.c * q.c + p.s * q.s;
+        if (sine < 0.0) return 0.5 * b_ * ((halfTurns - 1.0) * kPi + std::atan2(-sine, -cosine));
+        return 0.5 * b_ * (halfTurns * kPi + std::atan2(sine, cosine));
     }
     const auto length = lengthsFromEnd<2>(b_, {from.turn.c, to.turn.c},
                                           {std::fabs(from.turn.s), std::fabs(to.turn.s)});
     const double part = std::copysign(length[1], to.turn.s) - std::copysign(length[0], from.turn.s);
-    if (halfTurns == 0) return part;
-    return static_cast<double>(halfTurns) * halfTurn_ + part;
+    return halfTurns * halfTurn_ + part;
 }
 
 } // namespace planegeo
