@@ -95,6 +95,11 @@ TEST(CircleEllipse, OrderIsThatOfTheQuartic) {
     EXPECT_EQ(places(cross({-3, -0.5, 2, 1, 2})), (Places{0, 1}));
 }
 
+TEST(CircleEllipse, EqualAxesAreNoCircleAtAToleranceOfZero) {
+    const ToleranceGuard none(0.0);
+    EXPECT_EQ(cross({3, 1, 2, 2, 2.5}).count, 0) << "the quartic has no leading term";
+}
+
 /// Ellipses with the circle through one of their points: that point comes back, all points lie on
 /// both curves, whatever the quartic's own condition.
 TEST(CircleEllipse, RoundingLosesNoPoint) {

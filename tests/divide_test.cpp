@@ -73,6 +73,10 @@ TEST(KeptDivision, whatIsKept) {
     std::swap(reversed.start, reversed.end);
     plain::Arc further = kArc;
     further.end += 2e-8;
+    plain::Arc lifted = kArc;
+    lifted.a += 0.5e-6, lifted.center.y += 2e-6;
+    plain::Arc spun = lifted;
+    spun.a += 0.5e-6, spun.rot += 2e-8;
     const Step steps[] = {
         {"the first call measures", kArc, 5, 2, 0, false},
         {"within the tolerances it is the same arc", nudged, 5, 1, 0, true},
@@ -87,6 +91,9 @@ TEST(KeptDivision, whatIsKept) {
         {"another axis", moved, 5, 1, 0, false},
         {"the first again", kArc, 5, 1, 0, false},
         {"another end", further, 5, 1, 0, false},
+        {"the first once more", kArc, 5, 1, 0, false},
+        {"another centre", lifted, 5, 1, 0, false},
+        {"another rotation", spun, 5, 1, 0, false},
         {"another count", moved, 6, 1, 0, false},
         {"a reversed range is refused", reversed, 6, 1, -1, false},
         {"and again, from no table", reversed, 6, 1, -1, false},
