@@ -1426,7 +1426,7 @@ PLANEGEO_API int32_t PLANEGEO_CALL ca_Simpson(PLANEGEO_INTEGRAND integrand, doub
  *         ten ranges in a row gave nothing or no change above 1e-6, the integral is
  *         not finite and the limit no longer changes, wanted is infinite, or 2^28
  *         samples are spent (the range has then grown by at most 80 turns), or with the
- *         library's own integrands 2^24 in 192 ranges that its series does not decide;
+ *         library's own integrands 2^24 in 192 ranges that only samples decide;
  *         else the integrand's code
  */
 PLANEGEO_API int32_t PLANEGEO_CALL ca_Simpson2(PLANEGEO_INTEGRAND integrand, double *lower,

@@ -1536,8 +1536,8 @@ namespace Planegeo
         /// 0 found; -2 found, but a range on the way did not settle; -1 given up: ten ranges in a row
         /// gave nothing or no change above 1e-6, the integral is not finite and the limit no longer
         /// changes, wanted is infinite, or 2^28 samples are spent (the range has then grown by at most
-        /// 80 turns), or with the library's own integrands 2^24 in 192 ranges that its series does not
-        /// decide; else the integrand's code
+        /// 80 turns), or with the library's own integrands 2^24 in 192 ranges that only samples decide;
+        /// else the integrand's code
         /// </returns>
         [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
         public static extern int ca_Simpson2(PLANEGEO_INTEGRAND integrand, ref double lower, ref

@@ -1039,8 +1039,8 @@ function ca_Simpson(integrand: PLANEGEO_INTEGRAND; lower: Double; upper: Double;
 //   Result: 0 found; -2 found, but a range on the way did not settle; -1 given up: ten ranges in a
 //     row gave nothing or no change above 1e-6, the integral is not finite and the limit no longer
 //     changes, wanted is infinite, or 2^28 samples are spent (the range has then grown by at most
-//     80 turns), or with the library's own integrands 2^24 in 192 ranges that its series does not
-//     decide; else the integrand's code
+//     80 turns), or with the library's own integrands 2^24 in 192 ranges that only samples decide;
+//     else the integrand's code
 function ca_Simpson2(integrand: PLANEGEO_INTEGRAND; var lower: Double; var upper: Double;
   wanted: Double; which: Integer): Integer; cdecl; external library_name name 'ca_Simpson2';
 

@@ -2562,7 +2562,7 @@ def ca_Simpson2(
             in a row gave nothing or no change above 1e-6, the integral is not finite and the
             limit no longer changes, wanted is infinite, or 2^28 samples are spent (the range
             has then grown by at most 80 turns), or with the library's own integrands 2^24 in
-            192 ranges that its series does not decide; else the integrand's code
+            192 ranges that only samples decide; else the integrand's code
         lower, upper: degrees; only the moved one is written, and only when the value was found
     """
     _integrand = _convert.Callback(integrand, _PLANEGEO_INTEGRAND, _of_library)
