@@ -75,7 +75,7 @@ TEST(EllipseTangents, fourOuterOnesByTheirNormals) {
     ASSERT_EQ(got.count, 4);
     const double wide = 4 / std::sqrt(5.0), close = 1 / std::sqrt(5.0);
     const DTPOINT on1[] = {{-wide, -close}, {wide, -close}, {wide, close}, {-wide, close}};
-    for (int i = 0; i < 4; ++i) {
+    for (std::size_t i = 0; i < 4; ++i) {
         const DTPOINT on2 = {on1[i].x / 4, on1[i].y * 4};
         EXPECT_TRUE(near(got.t[2 * i], first.placed(on1[i]), 20 * kEpsilon)) << i;
         EXPECT_TRUE(near(got.t[2 * i + 1], first.placed(on2), 20 * kEpsilon)) << i;
@@ -121,7 +121,7 @@ TEST(EllipseTangents, touchBoth) {
         const Tangents got = tangents(e, f);
         ASSERT_TRUE(kind != 0 || got.count == 4);
         ASSERT_TRUE(kind != 1 || got.status == 2);
-        for (int k = 0; k < got.count; ++k) {
+        for (std::size_t k = 0; k < got.count; ++k) {
             const DTPOINT p = got.t[2 * k], q = got.t[2 * k + 1];
             const double coordinates = std::hypot(p.x, p.y) + std::hypot(q.x, q.y);
             // Some roundings of the points; along the line they make up for a short distance.

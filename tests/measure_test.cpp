@@ -285,7 +285,7 @@ TEST(Length, knownArcs) {
 
 TEST(Length, aWholeTurnIsWrittenFromZero) {
     for (const auto &[a, b] : {std::pair{10.0, 1e-5},
-                               {1e-9, 10.0},
+                               {1e-7, 10.0},
                                {10.0, -6.0},
                                {-10.0, 6.0},
                                {10.0, 0.0},

@@ -48,7 +48,8 @@ TEST(Trim, TakesThePickedPiece) {
     for (const Case &c : cases) {
         const std::string file = scratch.write("a.dxf", dxf(c.entities));
         const std::string out = scratch.file("out.dxf");
-        const auto outcome = scratch.draft(std::string("trim ").append(file + c.picks + out));
+        const auto outcome =
+            scratch.draft(std::string("trim ").append(file).append(c.picks).append(out));
         ASSERT_EQ(outcome.exitCode, 0) << c.about << outcome.err;
         const json before = scratch.told("measure " + file)["measures"];
         const json after = scratch.told("measure " + out)["measures"];
