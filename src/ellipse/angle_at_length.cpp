@@ -50,15 +50,14 @@ std::optional<double> angleAtLength(const UnitSpeed &arc, double length, double 
     const double offset = length - halfTurns * halfTurn;
     const double wanted = std::fabs(offset);
     const double b = arc.b();
-    const double focal2 = (1.0 - b) * (1.0 + b);
     double rad = std::clamp(roughAngle(b, kPi * wanted / halfTurn), 0.0, 0.5 * kPi);
     for (int i = 0; i < kMostSteps; ++i) {
         const Rotation u = Rotation::ofRadians(rad);
         const double rest = wanted - arc.lengthTo(u);
         const double g = arc.square(u);
         const double speed = std::sqrt(g);
-        const double bend = 2.0 * focal2 * u.s * u.c / speed * rest; // 2 f' r
-        const double step = 2.0 * rest / (speed + std::sqrt(std::max(0.0, g + bend)));
+        const double slope = arc.bend(u) / speed;
+        const double step = 2.0 * rest / (speed + std::sqrt(std::max(0.0, g + 2.0 * slope * rest)));
         rad = std::clamp(rad + step, 0.0, 0.5 * kPi);
         if (std::fabs(step * step * step) < precision * b) {
             return 180.0 * halfTurns + std::copysign(rad * kDegPerRad, offset);

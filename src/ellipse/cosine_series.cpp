@@ -4,20 +4,18 @@
 
 #include <algorithm>
 
+#include "ellipse/speed.h"
+
 namespace planegeo {
 
 namespace {
-
-/// Half axes whose squares neither over- nor underflow.
-constexpr double kShortestHalfAxis = 0x1p-400;
-constexpr double kLongestHalfAxis = 0x1p400;
 
 double flatness(double a, double b) { return (b - a) / (a + b); }
 
 /// Terms after which a remainder that falls like rho^k has lost `bits` bits; -1 when none do.
 int termsFor(double a, double b, double bits) {
     const auto [shorter, longer] = std::minmax(a, b);
-    if (!(shorter >= kShortestHalfAxis && longer <= kLongestHalfAxis)) return -1;
+    if (!(shorter >= kLeastHalfAxis && longer <= kGreatestHalfAxis)) return -1;
     const double bitsPerTerm = -std::log2(std::fabs(flatness(a, b)));
     if (bitsPerTerm > bits * 1.5) return 0;
     const double terms = std::ceil(bits / bitsPerTerm);

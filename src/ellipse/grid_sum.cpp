@@ -13,9 +13,6 @@ namespace planegeo {
 
 namespace {
 
-/// Half axes whose squares neither over- nor underflow.
-constexpr double kLeastHalfAxis = 0x1p-400;
-constexpr double kGreatestHalfAxis = 0x1p400;
 /// Farther limits would make the rounding of a sample's angle the larger error.
 constexpr double kFarthestLimitDeg = 1000000.0;
 /// A sum known to less of its value is not told.

@@ -36,8 +36,7 @@ double RunningLength::at(std::int64_t i) const {
     const double deg = steps_.start + (static_cast<double>(i) + 0.5) * steps_.h;
     const Offset x = Offset::ofDegrees(deg - endDeg_);
     const double f = std::sqrt(unit_.square(x.turn));
-    const double b = unit_.b();
-    const double slope = (1.0 - b) * (1.0 + b) * (x.turn.c * x.turn.s) / f;
+    const double slope = unit_.bend(x.turn) / f;
     const double alternating = i % 2 == 1 ? -0.5 * f : 0.5 * f;
     return base_ + scale_ * (lengthAt(unit_, x) - third_ * (0.375 * third_ * slope + alternating));
 }

@@ -7,6 +7,10 @@
 
 namespace planegeo {
 
+/// Half axes whose squares neither over- nor underflow.
+inline constexpr double kLeastHalfAxis = 0x1p-400;
+inline constexpr double kGreatestHalfAxis = 0x1p400;
+
 /// Speed of the point (A cos t, B sin t), the length that it covers per radian of t:
 /// sqrt(A^2 sin^2 t + B^2 cos^2 t).
 struct ArcSpeed {

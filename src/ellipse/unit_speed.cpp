@@ -208,9 +208,8 @@ OddDerivatives UnitSpeed::derivatives(Rotation u, std::size_t count) const {
     const double perG = 1.0 / square(u);
     const double x = b2 * (perG * perG);
     const double y = (1.0 + b2) * perG;
-    const double bend = (1.0 - b_) * (1.0 + b_) * (u.c * u.s); // r r'
-    if (kind_ == EllipseSpeed::arc) return at<kOfArc>(bend * std::sqrt(perG), x, y, count);
-    return at<kOfSector>(0.5 * bend * x, x, y, count);
+    if (kind_ == EllipseSpeed::arc) return at<kOfArc>(bend(u) * std::sqrt(perG), x, y, count);
+    return at<kOfSector>(0.5 * bend(u) * x, x, y, count);
 }
 
 double UnitSpeed::lengthTo(Rotation u) const { return lengthsFromEnd<1>(b_, {u.c}, {u.s})[0]; }

@@ -38,6 +38,8 @@ class UnitSpeed {
     double b() const { return b_; }
 
     double square(Rotation u) const { return b_ * b_ * (u.c * u.c) + u.s * u.s; }
+    /// Half the derivative of square(), f f' of the arc's speed f.
+    double bend(Rotation u) const { return (1.0 - b_) * (1.0 + b_) * (u.c * u.s); }
     /// Of them kFewCorrections or kCorrections; those after are 0.
     OddDerivatives derivatives(Rotation u, std::size_t count) const;
     double integralBetween(const Offset &from, const Offset &to) const;
